@@ -1,0 +1,143 @@
+#include <fcntl.h>
+#include <spawn.h>
+#include <stdio.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "platform/command_line.h"
+#include "platform/command_runner.h"
+#include "platform/descriptor.h"
+#include "platform/never_destroyed.h"
+#include "platform/read_pieces.h"
+
+extern char** environ;
+
+namespace SMBIOS::Platform {
+
+namespace {
+
+struct Pipe {
+    Descriptor readEnd;
+    Descriptor writeEnd;
+};
+
+/// Closes the stream first, so that a program that still prints ends as well, and waits for the program.
+struct EndProgram {
+    void operator()(FILE* stream) const noexcept {
+        ::fclose(stream);
+        while (program > 0 && ::waitpid(program, nullptr, 0) < 0 && errno == EINTR) {
+        }
+    }
+
+    pid_t program = 0;
+};
+
+using ProgramStream = std::unique_ptr<FILE, EndProgram>;
+
+Pipe OpenPipe() noexcept {
+    int ends[2] = {-1, -1};
+    if (::pipe2(ends, O_CLOEXEC) != 0) {
+        return {};
+    }
+    return {Descriptor(ends[0]), Descriptor(ends[1])};
+}
+
+ssize_t ReadCookie(void* cookie, char* buffer, size_t size) noexcept {
+    return ReadRetrying(static_cast<const Descriptor*>(cookie)->Number(), buffer, size);
+}
+
+int CloseCookie(void* cookie) noexcept {
+    delete static_cast<Descriptor*>(cookie);
+    return 0;
+}
+
+/// A stream that, unlike one of fdopen, loses nothing when a signal interrupts it.
+ProgramStream OpenStream(Descriptor descriptor) {
+    auto cookie = std::make_unique<Descriptor>(std::move(descriptor));
+    ProgramStream stream(::fopencookie(cookie.get(), "r", {ReadCookie, nullptr, nullptr, CloseCookie}));
+    if (stream != nullptr) {
+        (void)cookie.release();
+    }
+    return stream;
+}
+
+/// Where a program's standard output goes.
+class OutputRedirection {
+public:
+    explicit OutputRedirection(int descriptor) noexcept
+        : isReady_(::posix_spawn_file_actions_init(&actions_) == 0),
+          isComplete_(isReady_ &&
+                      ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDOUT_FILENO) == 0) {}
+    OutputRedirection(const OutputRedirection&) = delete;
+    OutputRedirection& operator=(const OutputRedirection&) = delete;
+    ~OutputRedirection() {
+        if (isReady_) {
+            ::posix_spawn_file_actions_destroy(&actions_);
+        }
+    }
+
+    [[nodiscard]] bool IsComplete() const noexcept { return isComplete_; }
+    [[nodiscard]] const posix_spawn_file_actions_t* Actions() const noexcept { return &actions_; }
+
+private:
+    posix_spawn_file_actions_t actions_;
+    bool isReady_;
+    bool isComplete_;
+};
+
+/// Returns the program's process id, or 0 when it cannot be started.
+pid_t Spawn(std::vector<std::string>& elements, int output) {
+    std::vector<char*> arguments;
+    arguments.reserve(elements.size() + 1);
+    for (std::string& element : elements) {
+        arguments.push_back(element.data());
+    }
+    arguments.push_back(nullptr);
+    const OutputRedirection redirection(output);
+    pid_t program = 0;
+    const bool started =
+        redirection.IsComplete() &&
+        ::posix_spawnp(&program, arguments[0], redirection.Actions(), nullptr, arguments.data(), environ) ==
+            0;
+    return started ? program : 0;
+}
+
+ProgramStream StartProgram(const std::string& commandLine) {
+    std::vector<std::string> elements = SplitCommandLine(commandLine.c_str());
+    Pipe pipe = OpenPipe();
+    if (!pipe.readEnd.IsOpen()) {
+        return nullptr;
+    }
+    ProgramStream stream = OpenStream(std::move(pipe.readEnd));
+    if (stream == nullptr) {
+        return nullptr;
+    }
+    stream.get_deleter().program = Spawn(elements, pipe.writeEnd.Number());
+    return stream.get_deleter().program != 0 ? std::move(stream) : nullptr;
+}
+
+class PosixCommandRunner final : public CommandRunner {
+public:
+    bool Run(const std::string& commandLine, std::string& output) override {
+        const ProgramStream stream = StartProgram(commandLine);
+        if (stream == nullptr) {
+            return false;
+        }
+        output.clear();
+        AppendPieces(stream.get(), output);
+        return true;
+    }
+};
+
+}  // namespace
+
+CommandRunner& MachineCommandRunner() noexcept {
+    return NeverDestroyed<PosixCommandRunner>();
+}
+
+}  // namespace SMBIOS::Platform

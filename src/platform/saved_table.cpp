@@ -1,0 +1,58 @@
+#include "platform/saved_table.h"
+
+#include <optional>
+#include <span>
+#include <system_error>
+#include <utility>
+
+#include "platform/dmi_tables.h"
+#include "platform/entry_point.h"
+#include "platform/file_bytes.h"
+
+namespace SMBIOS::Platform {
+
+namespace {
+
+bool AddressLiesBehind(const EntryPoint& entryPoint, std::size_t fileSize) noexcept {
+    return entryPoint.tableAddress >= entryPoint.size && entryPoint.tableAddress <= fileSize;
+}
+
+std::vector<std::uint8_t> FollowEntryPoint(const std::filesystem::path& file,
+                                           std::span<const std::uint8_t> bytes) {
+    const std::optional<EntryPoint> entryPoint = ParseEntryPoint(bytes);
+    if (!entryPoint) {
+        throw SavedTableError::NotATable(file, "its entry point is damaged");
+    }
+    if (!AddressLiesBehind(*entryPoint, bytes.size())) {
+        throw SavedTableError::NotATable(file, "its entry point gives an address that is not in the file");
+    }
+    const auto offset = static_cast<std::size_t>(entryPoint->tableAddress);
+    std::optional<std::vector<std::uint8_t>> raw = AssembleRawTable(*entryPoint, bytes.subspan(offset));
+    if (!raw) {
+        throw SavedTableError::Truncated(file, "its table is shorter than its entry point states");
+    }
+    return std::move(*raw);
+}
+
+std::vector<std::uint8_t> LoadFile(const std::filesystem::path& file) {
+    FileBytes contents = ReadFileBytes(file);
+    if (contents.error) {
+        throw SavedTableError::Unreadable(file, contents.error);
+    }
+    if (StartsWithEntryPointAnchor(contents.bytes)) {
+        return FollowEntryPoint(file, contents.bytes);
+    }
+    if (contents.bytes.size() <= kRawHeaderSize) {
+        throw SavedTableError::Truncated(file, "nothing follows its 8-byte header");
+    }
+    return std::move(contents.bytes);
+}
+
+}  // namespace
+
+std::vector<std::uint8_t> LoadSavedTable(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(path, ignored) ? DmiTablesDirectory(path).Read() : LoadFile(path);
+}
+
+}  // namespace SMBIOS::Platform

@@ -1,0 +1,7 @@
+#include "platform/standard_output.h"
+
+namespace SMBIOS::Platform {
+
+void UseBinaryStandardOutput() noexcept {}
+
+}  // namespace SMBIOS::Platform

@@ -1,0 +1,331 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "platform/command_runner.h"
+#include "support/temporary_folder.h"
+
+namespace SMBIOS::Platform {
+namespace {
+
+constexpr std::size_t kMebibyte = 1'048'576;
+constexpr const char* kMissingProgram = "smbios-no-such-program --version";
+
+std::string OutputOf(const std::string& commandLine) {
+    std::string output;
+    EXPECT_TRUE(MachineCommandRunner().Run(commandLine, output));
+    return output;
+}
+
+bool Starts(const std::string& commandLine) {
+    std::string output;
+    return MachineCommandRunner().Run(commandLine, output);
+}
+
+bool HasNoChildren() {
+    return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD;
+}
+
+std::vector<int> DescriptorsWithFlags(int mask, int expected) {
+    std::vector<int> result;
+    for (int descriptor = 0; descriptor < 1024; ++descriptor) {
+        const int flags = ::fcntl(descriptor, F_GETFD);
+        if (flags != -1 && (flags & mask) == expected) {
+            result.push_back(descriptor);
+        }
+    }
+    return result;
+}
+
+std::vector<int> OpenDescriptors() {
+    return DescriptorsWithFlags(0, 0);
+}
+
+std::vector<int> InheritedDescriptors() {
+    return DescriptorsWithFlags(FD_CLOEXEC, 0);
+}
+
+TEST(PosixCommandRunner, ReturnsWhatTheProgramPrints) {
+    EXPECT_EQ(OutputOf("echo hello"), "hello\n");
+}
+
+TEST(PosixCommandRunner, ReturnsALastLineWithoutItsEnd) {
+    EXPECT_EQ(OutputOf("printf one\\ntwo"), "one\ntwo");
+}
+
+TEST(PosixCommandRunner, ReplacesWhatTheOutputHeldBefore) {
+    std::string output = "before";
+    ASSERT_TRUE(MachineCommandRunner().Run("true", output));
+    EXPECT_EQ(output, "");
+}
+
+TEST(PosixCommandRunner, HandsOverArgumentsAsTheWindowsRuntimeSplitsThem) {
+    EXPECT_EQ(OutputOf(R"(printf "<%s>" "a b" c\"d "")"), "<a b><c\"d><>");
+}
+
+TEST(PosixCommandRunner, UsesNoShell) {
+    EXPECT_EQ(OutputOf("echo $HOME * ; exit"), "$HOME * ; exit\n");
+}
+
+TEST(PosixCommandRunner, DoesNotLookAtTheExitStatus) {
+    EXPECT_EQ(OutputOf(R"(sh -c "echo hello; exit 3")"), "hello\n");
+}
+
+TEST(PosixCommandRunner, DoesNotCaptureStandardError) {
+    testing::internal::CaptureStderr();
+    const std::string output = OutputOf(R"(sh -c "echo lost >&2; echo kept")");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "lost\n");
+    EXPECT_EQ(output, "kept\n");
+}
+
+/// Reads standard input from a file.
+class InputFrom {
+public:
+    explicit InputFrom(const std::filesystem::path& file) : kept_(::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 3)) {
+        const int opened = ::open(file.c_str(), O_RDONLY);
+        if (opened != STDIN_FILENO) {
+            ::dup2(opened, STDIN_FILENO);
+            ::close(opened);
+        }
+    }
+    ~InputFrom() {
+        if (kept_ < 0) {
+            ::close(STDIN_FILENO);
+            return;
+        }
+        ::dup2(kept_, STDIN_FILENO);
+        ::close(kept_);
+    }
+
+private:
+    int kept_;
+};
+
+TEST(PosixCommandRunner, LeavesStandardInputToTheProgram) {
+    const Tests::TemporaryFolder folder;
+    const InputFrom input(folder.Write("input", "typed\n"));
+    EXPECT_EQ(OutputOf("cat"), "typed\n");
+}
+
+TEST(PosixCommandRunner, ReturnsLinesLongerThanAPiece) {
+    const std::string line(300, 'x');
+    EXPECT_EQ(OutputOf("echo " + line), line + "\n");
+}
+
+TEST(PosixCommandRunner, DropsTheRestOfAPieceAfterANul) {
+    EXPECT_EQ(OutputOf(R"(printf "one\0two\nthree\n")"), "onethree\n");
+}
+
+TEST(PosixCommandRunner, KeepsWhatStandsInFrontOfANulInALongLine) {
+    const std::string start(150, 'x');
+    EXPECT_EQ(OutputOf("printf " + start + R"(\0lost\nend)"), start + "end");
+}
+
+TEST(PosixCommandRunner, ReturnsAMegabyte) {
+    const std::string output = OutputOf(R"(sh -c "head -c 1048576 /dev/zero | tr '\0' x")");
+    EXPECT_TRUE(output == std::string(kMebibyte, 'x'));
+}
+
+TEST(PosixCommandRunner, RefusesAMissingProgram) {
+    std::string output = "before";
+    EXPECT_FALSE(MachineCommandRunner().Run(kMissingProgram, output));
+    EXPECT_EQ(output, "before");
+}
+
+TEST(PosixCommandRunner, RefusesAMissingPath) {
+    EXPECT_FALSE(Starts("/no/such/program"));
+}
+
+TEST(PosixCommandRunner, RefusesAnEmptyCommandLine) {
+    EXPECT_FALSE(Starts(""));
+}
+
+TEST(PosixCommandRunner, PrintsNothingAboutAMissingProgram) {
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    (void)Starts(kMissingProgram);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+}
+
+TEST(PosixCommandRunner, LeavesNoZombie) {
+    (void)Starts("echo hello");
+    EXPECT_TRUE(HasNoChildren());
+}
+
+TEST(PosixCommandRunner, LeavesNoZombieOfAMissingProgram) {
+    (void)Starts(kMissingProgram);
+    EXPECT_TRUE(HasNoChildren());
+}
+
+TEST(PosixCommandRunner, LeavesNoDescriptorOpen) {
+    const std::vector<int> before = OpenDescriptors();
+    (void)Starts("echo hello");
+    EXPECT_EQ(OpenDescriptors(), before);
+}
+
+TEST(PosixCommandRunner, LeavesNoDescriptorOpenForAMissingProgram) {
+    const std::vector<int> before = OpenDescriptors();
+    (void)Starts(kMissingProgram);
+    EXPECT_EQ(OpenDescriptors(), before);
+}
+
+TEST(PosixCommandRunner, HandsNoDescriptorOfItsOwnToTheProgram) {
+    const std::string script =
+        "for n in 3 4 5 6 7 8 9; do if { : >&$n; } 2>/dev/null; then echo $n; fi; done";
+    std::string expected;
+    for (const int descriptor : InheritedDescriptors()) {
+        if (descriptor >= 3 && descriptor <= 9) {
+            expected += std::to_string(descriptor) + "\n";
+        }
+    }
+    EXPECT_EQ(OutputOf("sh -c \"" + script + "\""), expected);
+}
+
+TEST(PosixCommandRunner, OutlivesAProgramThatClosesItsOutputEarly) {
+    EXPECT_EQ(OutputOf(R"(sh -c "echo hello; exec >&-; sleep 0.05")"), "hello\n");
+    EXPECT_TRUE(HasNoChildren());
+}
+
+TEST(PosixCommandRunner, OutlivesAProgramThatIsKilled) {
+    EXPECT_EQ(OutputOf(R"(sh -c "echo hello; kill -9 $$")"), "hello\n");
+}
+
+TEST(PosixCommandRunner, WorksWhenTheSystemReapsChildren) {
+    const auto previous = ::signal(SIGCHLD, SIG_IGN);
+    const std::string output = OutputOf("echo hello");
+    ::signal(SIGCHLD, previous);
+    EXPECT_EQ(output, "hello\n");
+}
+
+/// Interrupts every system call of the process again and again.
+class Interruptions {
+public:
+    Interruptions() {
+        struct sigaction action {};
+        action.sa_handler = [](int) {};
+        ::sigaction(SIGALRM, &action, &previous_);
+        SetPeriod(2000);
+    }
+    ~Interruptions() {
+        SetPeriod(0);
+        ::sigaction(SIGALRM, &previous_, nullptr);
+    }
+
+private:
+    static void SetPeriod(suseconds_t microseconds) {
+        const itimerval timer{{0, microseconds}, {0, microseconds}};
+        ::setitimer(ITIMER_REAL, &timer, nullptr);
+    }
+
+    struct sigaction previous_ {};
+};
+
+TEST(PosixCommandRunner, LosesNothingWhenSignalsInterruptIt) {
+    std::string output;
+    {
+        const Interruptions interruptions;
+        output =
+            OutputOf(R"(sh -c "printf o; sleep 0.05; echo ne; sleep 0.05; echo two; exec >&-; sleep 0.05")");
+    }
+    EXPECT_EQ(output, "one\ntwo\n");
+    EXPECT_TRUE(HasNoChildren());
+}
+
+// What follows changes the process for good, so each runs in a process of its own, which tells by its exit
+// status whether all was well.
+
+[[noreturn]] void EndProcess(bool isGood) {
+    ::_exit(isGood ? 0 : 1);
+}
+
+[[noreturn]] void EchoWithoutDescriptors(const std::vector<int>& closed) {
+    std::for_each(closed.begin(), closed.end(), ::close);
+    const std::vector<int> before = OpenDescriptors();
+    EndProcess(OutputOf("echo hello") == "hello\n" && OpenDescriptors() == before);
+}
+
+[[noreturn]] void EchoWithoutRoomForAPipe() {
+    const bool startsAtFirst = Starts("echo hello");
+    const rlimit limit{3, 3};
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    EndProcess(startsAtFirst && !Starts("echo hello") && HasNoChildren());
+}
+
+TEST(PosixCommandRunnerDeathTest, WorksWithoutStandardInput) {
+    EXPECT_EXIT(EchoWithoutDescriptors({STDIN_FILENO}), testing::ExitedWithCode(0), "");
+}
+
+TEST(PosixCommandRunnerDeathTest, WorksWithoutStandardOutput) {
+    EXPECT_EXIT(EchoWithoutDescriptors({STDOUT_FILENO}), testing::ExitedWithCode(0), "");
+}
+
+TEST(PosixCommandRunnerDeathTest, WorksWithoutStandardInputAndOutput) {
+    const std::vector<int> both{STDIN_FILENO, STDOUT_FILENO};
+    EXPECT_EXIT(EchoWithoutDescriptors(both), testing::ExitedWithCode(0), "");
+}
+
+TEST(PosixCommandRunnerDeathTest, RefusesWhenThereIsNoRoomForAPipe) {
+    EXPECT_EXIT(EchoWithoutRoomForAPipe(), testing::ExitedWithCode(0), "");
+}
+
+constexpr bool kMemoryIsWatched =
+#if defined(__SANITIZE_ADDRESS__)
+    true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+    true;
+#else
+    false;
+#endif
+#else
+    false;
+#endif
+
+/// Leaves the process 32 MiB of memory beyond what it has.
+void LimitMemory() {
+    std::size_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    const rlim_t size = pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE)) + 32 * kMebibyte;
+    const rlimit limit{size, size};
+    ::setrlimit(RLIMIT_AS, &limit);
+}
+
+bool RunsOutOfMemory(const std::string& commandLine) {
+    std::string output;
+    try {
+        MachineCommandRunner().Run(commandLine, output);
+        return false;
+    } catch (const std::bad_alloc&) {
+        return true;
+    }
+}
+
+[[noreturn]] void PrintMoreThanMemoryHolds() {
+    const std::vector<int> before = OpenDescriptors();
+    LimitMemory();
+    const bool isOutOfMemory = RunsOutOfMemory("yes " + std::string(120, 'x'));
+    EndProcess(isOutOfMemory && HasNoChildren() && OpenDescriptors() == before);
+}
+
+TEST(PosixCommandRunnerDeathTest, LeavesNothingBehindWhenMemoryRunsOut) {
+    if (kMemoryIsWatched) {
+        GTEST_SKIP() << "the sanitizer ends the process when memory runs out";
+    }
+    EXPECT_EXIT(PrintMoreThanMemoryHolds(), testing::ExitedWithCode(0), "");
+}
+
+}  // namespace
+}  // namespace SMBIOS::Platform
