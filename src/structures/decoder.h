@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "structures/base_structure.h"
+#include "structures/parse_rules.h"
+#include "structures/structure_reader.h"
+
+namespace SMBIOS::Structures {
+
+/// The frame that every decoder shares; it owns the order of things: fresh record, checks, gates, handle,
+/// fields, string set, raw bytes, with every failure caught into the record. A decoder `Type` derives from
+/// `Decoder<Type, Record>` and supplies only what is its own:
+///
+///     static const ParseRules kRules;                                   what it accepts
+///     static void DecodeFields(StructureReader& in, Record& record);    its fields in order
+template <class Type, class Record>
+class Decoder : public BaseStructure {
+public:
+    void Process(const std::vector<std::uint8_t>& formattedBytes,
+                 const std::vector<std::string>& strings) final {
+        const bool decoded = Attempt([&] {
+            this->Parse(formattedBytes);
+            StructureReader in(formattedBytes, strings);
+            Type::DecodeFields(in, *record_);
+        });
+        if (KeepsStrings(Type::kRules.strings, decoded, strings.empty())) {
+            Attempt([&] { record_->strings = strings; });
+        }
+        record_->rawBytes = formattedBytes;
+    }
+
+    [[nodiscard]] std::uint16_t GetHandle() const final { return record_ ? record_->handle : kNoHandle; }
+
+    void Parse(const std::vector<std::uint8_t>& formattedBytes) override {
+        Record& record = MakeRecord();
+        CheckStructure(Type::kRules, formattedBytes);
+        record.handle = FormattedArea(formattedBytes).Handle();
+    }
+
+    /// The record, shared with the decoder; null before `Process`.
+    [[nodiscard]] std::shared_ptr<Record> GetRecord() const { return record_; }
+
+protected:
+    /// Makes a fresh record, releasing any earlier one.
+    Record& MakeRecord() {
+        record_ = std::make_shared<Record>();
+        return *record_;
+    }
+
+private:
+    /// Runs one step and tells whether it succeeded; a failure's text becomes the record's error.
+    template <class Step>
+    bool Attempt(Step step) {
+        try {
+            step();
+            return true;
+        } catch (const std::exception& failure) {
+            RecordFailure(failure.what());
+        } catch (...) {
+            RecordFailure("Unknown error occurred while processing type structure");
+        }
+        return false;
+    }
+
+    void RecordFailure(const char* text) {
+        if (!record_) {
+            throw;  // no memory for the record: there is nowhere to write
+        }
+        record_->error = text;
+    }
+
+    std::shared_ptr<Record> record_;
+};
+
+}  // namespace SMBIOS::Structures

@@ -1,0 +1,53 @@
+#include "structures/parse_rules.h"
+
+#include <stdexcept>
+
+#include "common/message_exception.h"
+#include "structures/formatted_area.h"
+
+namespace SMBIOS::Structures {
+
+namespace {
+
+constexpr std::size_t kHeaderSize = 4;
+constexpr const char* kMalformed =
+    "Malformed or corrupted structure. Maybe a version outside the interval this lib supports [2.0.0, 3.8.0]";
+
+}  // namespace
+
+void CheckHeader(const std::vector<std::uint8_t>& formattedBytes) {
+    if (formattedBytes.size() < kHeaderSize) {
+        throw Common::MessageException(kMalformed);
+    }
+}
+
+void CheckStructure(const ParseRules& rules, const std::vector<std::uint8_t>& formattedBytes) {
+    if (formattedBytes.empty()) {
+        throw std::runtime_error("Invalid structure format pointer");
+    }
+    CheckHeader(formattedBytes);
+    const std::uint8_t length = FormattedArea(formattedBytes).Length();
+    const SmbiosVersionIndex version = Manager::currentVersionIndex;
+    if (!rules.lengths.Contains(length) || !rules.versions.Contains(version)) {
+        throw Common::MessageException(kMalformed);
+    }
+    for (const Gate& gate : rules.gates) {
+        if (gate.lengths.Contains(length) && gate.versions.Contains(version)) {
+            throw Common::MessageException(gate.message);
+        }
+    }
+}
+
+bool KeepsStrings(StringSetRule rule, bool decoded, bool isEmpty) noexcept {
+    switch (rule) {
+        case StringSetRule::onSuccess:
+            return decoded;
+        case StringSetRule::alwaysIfPresent:
+            return !isEmpty;
+        case StringSetRule::always:
+            return decoded || !isEmpty;
+    }
+    return false;
+}
+
+}  // namespace SMBIOS::Structures

@@ -1,0 +1,34 @@
+#include "structures/string_lookup.h"
+
+#include <exception>
+#include <string_view>
+
+namespace SMBIOS::Structures {
+
+namespace {
+
+constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
+
+std::string_view Trimmed(std::string_view text) noexcept {
+    const std::size_t last = text.find_last_not_of(kWhiteSpace);
+    if (last == std::string_view::npos) {
+        return {};
+    }
+    const std::size_t first = text.find_first_not_of(kWhiteSpace);
+    return text.substr(first, last - first + 1);
+}
+
+}  // namespace
+
+std::string GetStringByIndex(std::uint8_t number, const std::vector<std::string>& strings) {
+    if (number == 0 || number > strings.size()) {
+        return {};
+    }
+    try {
+        return std::string(Trimmed(strings[number - 1U]));
+    } catch (const std::exception&) {
+        return {};  // a text that cannot be copied is reported like a missing one
+    }
+}
+
+}  // namespace SMBIOS::Structures

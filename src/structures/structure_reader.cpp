@@ -1,0 +1,18 @@
+#include "structures/structure_reader.h"
+
+#include "structures/string_lookup.h"
+
+namespace SMBIOS::Structures {
+
+std::string StructureReader::String(std::size_t offset) const {
+    return GetStringByIndex(Byte(offset), strings_);
+}
+
+void StructureReader::OverwriteByte(std::size_t offset, std::uint8_t value) noexcept {
+    if (offset < formattedBytes_.size()) {
+        // `Process` takes its bytes as const by contract, yet they are the walk's own copy and never const.
+        const_cast<std::uint8_t&>(formattedBytes_[offset]) = value;
+    }
+}
+
+}  // namespace SMBIOS::Structures

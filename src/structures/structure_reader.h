@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "structures/formatted_area.h"
+
+namespace SMBIOS::Structures {
+
+/// What a decoder reads its fields from: the formatted area and the string set of one structure. Valid only
+/// while the bytes and strings it was given are.
+class StructureReader : public FormattedArea {
+public:
+    StructureReader(const std::vector<std::uint8_t>& formattedBytes, const std::vector<std::string>& strings)
+        : FormattedArea(formattedBytes), formattedBytes_(formattedBytes), strings_(strings) {}
+
+    /// The string whose number stands at `offset`, trimmed; empty when there is no such string.
+    [[nodiscard]] std::string String(std::size_t offset) const;
+
+    /// Writes into the bytes given to `Process`, so that the raw bytes kept afterwards show `value`. Nothing
+    /// happens past the formatted area.
+    void OverwriteByte(std::size_t offset, std::uint8_t value) noexcept;
+
+private:
+    const std::vector<std::uint8_t>& formattedBytes_;
+    const std::vector<std::string>& strings_;
+};
+
+}  // namespace SMBIOS::Structures

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "structures/decoder.h"
+#include "structures/probe.h"
+
+namespace SMBIOS::Structures {
+
+namespace Type29::Types {
+
+/// Record of one Electrical Current Probe. Values are in milliamperes.
+struct Type29Struct : ProbeRecord {};
+
+}  // namespace Type29::Types
+
+/// Decoder of Electrical Current Probe structures: one per sensor of a supply current.
+class Type_29 final : public Decoder<Type_29, Type29::Types::Type29Struct> {
+private:
+    friend Decoder;
+    static const ParseRules kRules;
+    static void DecodeFields(StructureReader& in, Type29::Types::Type29Struct& record);
+};
+
+}  // namespace SMBIOS::Structures

@@ -1,0 +1,160 @@
+#include "structures/type_3.h"
+
+#include <utility>
+
+#include "manager/board_type_names.h"
+#include "structures/decoding.h"
+
+namespace SMBIOS::Structures {
+
+using Manager::BoardTypeNames;
+using Type3::Types::ContainedElement;
+using Type3::Types::Type3Struct;
+
+namespace {
+
+constexpr Gate kGates[] = {
+    {LengthAtLeast(0x0A), VersionExactly(v2_0_0), "v2.1.0 structure or later in a v2.0.0 BIOS"},
+    {LengthAtLeast(0x0E), VersionBelow(v2_3_0), "v2.3.0 structure or later in a v2.2.0 BIOS or older"},
+};
+
+constexpr auto ChassisTypeNames = ByteTable({
+    {3, "Desktop"},
+    {4, "Low Profile Desktop"},
+    {5, "Pizza Box"},
+    {6, "Mini Tower"},
+    {7, "Tower"},
+    {8, "Portable"},
+    {9, "Laptop"},
+    {10, "Notebook"},
+    {11, "Hand Held"},
+    {12, "Docking Station"},
+    {13, "All in One"},
+    {14, "Sub Notebook"},
+    {15, "Space-saving"},
+    {16, "Lunch Box"},
+    {17, "Main Server Chassis"},
+    {18, "Expansion Chassis"},
+    {19, "SubChassis"},
+    {20, "Bus Expansion Chassis"},
+    {21, "Peripheral Chassis"},
+    {22, "RAID Chassis"},
+    {23, "Rack Mount Chassis"},
+    {24, "Sealed-case PC"},
+    {25, "Multi-system chassis"},
+    {26, "Compact PCI"},
+    {27, "Advanced TCA"},
+    {28, "Blade"},
+    {29, "Blade Enclosure"},
+    {30, "Tablet"},
+    {31, "Convertible"},
+    {32, "Detachable"},
+    {33, "IoT Gateway"},
+    {34, "Embedded PC"},
+    {35, "Mini PC"},
+    {36, "Stick PC"},
+});
+static_assert(ChassisTypeNames.Rows().size() == 34);
+
+constexpr auto ChassisStateNames = ByteTable({
+    {3, "Safe"},
+    {4, "Warning"},
+    {5, "Critical"},
+    {6, "Non-recoverable"},
+});
+
+constexpr auto ChassisSecurityStatusNames = ByteTable({
+    {3, "None"},
+    {4, "External interface locked out"},
+    {5, "External interface enabled"},
+});
+
+constexpr std::size_t kElementsOffset = 0x15;
+constexpr std::size_t kElementSize = 3;
+constexpr std::uint8_t kLengthWithElements = 0x18;
+
+constexpr std::uint8_t LowSevenBits(std::uint8_t byte) {
+    return static_cast<std::uint8_t>(byte & 0x7FU);
+}
+
+constexpr bool HasTopBit(std::uint8_t byte) {
+    return (byte & 0x80U) != 0;
+}
+
+constexpr std::size_t ValueOrDefault(std::uint8_t value, std::size_t defaultValue) {
+    return value == 0 ? defaultValue : value;
+}
+
+/// Where the elements end. Departs from the standard: a count of 0 stands for 1, a record length of 0 for 3.
+std::size_t SkuNumberOffset(const StructureReader& in) {
+    const std::size_t count = ValueOrDefault(in.Byte(0x13), 1);
+    const std::size_t recordLength = ValueOrDefault(in.Byte(0x14), kElementSize);
+    return recordLength * count + kElementsOffset;
+}
+
+ContainedElement ElementAt(const StructureReader& in, std::size_t offset) {
+    const std::uint8_t type = LowSevenBits(in.Byte(offset));
+    return {
+        .typeValue = type,
+        .typeSelect = HasTopBit(in.Byte(offset)) ? "Structure" : "Baseboard",
+        .typeName = std::string(BoardTypeNames[type]),  // departs from the standard: structure types too
+        .minimum = in.Byte(offset + 1),
+        .maximum = in.Byte(offset + 2),
+    };
+}
+
+/// Departs from the standard: records are 3 bytes apart whatever the record length, even past the structure.
+std::optional<std::vector<ContainedElement>> ContainedElementsOf(const StructureReader& in) {
+    if (in.Length() < kLengthWithElements) {
+        return std::nullopt;
+    }
+    std::vector<ContainedElement> elements;
+    const std::size_t end = SkuNumberOffset(in);
+    for (std::size_t offset = kElementsOffset; offset + kElementSize <= end; offset += kElementSize) {
+        elements.push_back(ElementAt(in, offset));
+    }
+    return elements.empty() ? std::nullopt : std::optional(std::move(elements));
+}
+
+/// Departs from the standard: only where the structure has an element and ends with the number of this text.
+std::string SkuNumberOf(const StructureReader& in) {
+    const std::size_t offset = SkuNumberOffset(in);
+    const bool isLastByte = in.Size() == offset + 1;
+    return in.Length() >= kLengthWithElements && isLastByte ? in.String(offset) : std::string{};
+}
+
+}  // namespace
+
+constinit const ParseRules Type_3::kRules = {.lengths = LengthAtLeast(0x09), .gates = kGates};
+
+void Type_3::DecodeFields(StructureReader& in, Type3Struct& record) {
+    record.chassisTypeValue = LowSevenBits(in.Byte(0x05));
+    record.chassisLock = HasTopBit(in.Byte(0x05));
+    record.version = in.String(0x06);
+    record.assetTag = in.String(0x08);
+    record.chassisType = ChassisTypeNames[LowSevenBits(in.Byte(0x05))];
+    record.manufacturer = in.String(0x04);
+    record.serialNumber = in.String(0x07);
+
+    if (CurrentVersionIsAtLeast(v2_1_0)) {
+        record.thermalStateValue = in.Byte(0x0B);
+        record.bootUpStateValue = in.Byte(0x09);
+        record.securityStatusValue = in.Byte(0x0C);
+        record.powerSupplyStateValue = in.Byte(0x0A);
+        record.thermalState = ChassisStateNames[in.Byte(0x0B)];
+        record.bootUpState = ChassisStateNames[in.Byte(0x09)];
+        record.powerSupplyState = ChassisStateNames[in.Byte(0x0A)];
+        record.securityStatus = ChassisSecurityStatusNames[in.Byte(0x0C)];
+    }
+    if (CurrentVersionIsAtLeast(v2_3_0)) {
+        record.height = in.Byte(0x11);
+        record.oemDefined = in.Dword(0x0D);
+        record.numberOfPowerCords = in.Byte(0x12);
+        record.containedElements = ContainedElementsOf(in);
+    }
+    if (CurrentVersionIsAtLeast(v2_7_0)) {
+        record.skuNumber = SkuNumberOf(in);
+    }
+}
+
+}  // namespace SMBIOS::Structures

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "structures/decoder.h"
+#include "structures/structure_record.h"
+
+namespace SMBIOS::Structures {
+
+namespace Type3::Types {
+
+/// A kind of element that the chassis can contain, and how many of it.
+struct ContainedElement {
+    std::uint8_t typeValue = 0;
+    std::string typeSelect;  ///< "Baseboard" or "Structure"
+    std::string typeName;
+    std::uint8_t minimum = 0;
+    std::uint8_t maximum = 0;
+};
+
+/// Record of one system enclosure or chassis.
+struct Type3Struct : StructureRecord {
+    std::string manufacturer;
+    std::optional<std::uint8_t> chassisTypeValue;
+    std::string chassisType;
+    std::string version;
+    std::string serialNumber;
+    std::string assetTag;
+    std::optional<bool> chassisLock;
+    std::optional<std::uint8_t> bootUpStateValue;
+    std::string bootUpState;
+    std::optional<std::uint8_t> powerSupplyStateValue;
+    std::string powerSupplyState;
+    std::optional<std::uint8_t> thermalStateValue;
+    std::string thermalState;
+    std::optional<std::uint8_t> securityStatusValue;
+    std::string securityStatus;
+    std::optional<std::uint32_t> oemDefined;
+    std::optional<std::uint8_t> height;  ///< units of 1.75 inch
+    std::optional<std::uint8_t> numberOfPowerCords;
+    std::string skuNumber;
+    std::optional<std::vector<ContainedElement>> containedElements;
+};
+
+}  // namespace Type3::Types
+
+/// Decoder of System Enclosure or Chassis structures.
+class Type_3 final : public Decoder<Type_3, Type3::Types::Type3Struct> {
+private:
+    friend Decoder;
+    static const ParseRules kRules;
+    static void DecodeFields(StructureReader& in, Type3::Types::Type3Struct& record);
+};
+
+}  // namespace SMBIOS::Structures
