@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "manager/structure_types.h"
+#include "structures/base_structure.h"
+
+namespace SMBIOS::Structures {
+
+/// Makes the decoder of a structure.
+class StructureFactory {
+public:
+    /// `type` is the structure's type byte. Returns the key to file the structure under and a new, empty
+    /// decoder: the type itself and its own decoder, or `Unknown` and an `UnknownType` for every other type.
+    /// Throws std::bad_alloc.
+    [[nodiscard]] static std::pair<Manager::Types::StructureTypes, std::shared_ptr<BaseStructure>>
+    CreateTablePtr(Manager::Types::StructureTypes type);
+};
+
+}  // namespace SMBIOS::Structures

@@ -1,0 +1,240 @@
+#include "manager/smbios_manager.h"
+
+#include <gtest/gtest.h>
+
+#include <exception>
+#include <thread>
+
+#include "manager/smbios_version.h"
+#include "structures/type_17.h"
+#include "structures/unknown_type.h"
+#include "tests/support/decode.h"
+#include "tests/support/fake_platform.h"
+
+// The manager is once per process: every test here needs a process of its own.
+namespace SMBIOS::Tests {
+namespace {
+
+using Manager::SmbiosManager;
+using Manager::Types::StructureTypes;
+using Structures::Type_17;
+using Structures::UnknownType;
+
+SmbiosManager& TheManager() {
+    return *SmbiosManager::GetInstance();
+}
+
+/// The text with which a load fails; "" when it does not.
+std::string TextOfFailedLoad() {
+    try {
+        TheManager().UpdateBiosInfo();
+    } catch (const std::exception& failure) {
+        return failure.what();
+    }
+    return "";
+}
+
+StructureBuilder MemoryDevice(std::uint16_t handle) {
+    return {17, 0x28, handle};
+}
+
+std::vector<std::uint8_t> TableOfVersion(std::uint8_t major, std::uint8_t minor, std::uint8_t revision) {
+    return TableBuilder(major, minor, revision).Add({1, 8}).RawTable();
+}
+
+std::vector<std::uint16_t> HandlesOf(StructureTypes type) {
+    std::vector<std::uint16_t> handles;
+    for (const auto& structure : TheManager().GetStructuresByType(type)) {
+        handles.push_back(structure->GetHandle());
+    }
+    return handles;
+}
+
+// Instance
+
+TEST(SmbiosManager, GetInstanceGivesOneInstance) {
+    ASSERT_NE(SmbiosManager::GetInstance(), nullptr);
+    EXPECT_EQ(SmbiosManager::GetInstance(), SmbiosManager::GetInstance());
+}
+
+TEST(SmbiosManager, TwoThreadsGetTheSameInstance) {
+    SmbiosManager* first = nullptr;
+    SmbiosManager* second = nullptr;
+    std::thread one([&] { first = SmbiosManager::GetInstance(); });
+    std::thread two([&] { second = SmbiosManager::GetInstance(); });
+    one.join();
+    two.join();
+    EXPECT_NE(first, nullptr);
+    EXPECT_EQ(first, second);
+}
+
+TEST(SmbiosManager, BeforeALoadThereIsNoStructureAndNoVersion) {
+    EXPECT_TRUE(TheManager().GetStructuresByType(StructureTypes::MemoryDevice).empty());
+    EXPECT_EQ(TheManager().GetVersion(), "");
+}
+
+// Raw table
+
+TEST(SmbiosManager, ATableWithoutSizeFails) {
+    const FakeFirmwareTable firmware;
+    EXPECT_EQ(TextOfFailedLoad(),
+              "Failed to get size of firmware table. Origin: SMBIOS::Manager::SmbiosManager::UpdateBiosInfo");
+}
+
+TEST(SmbiosManager, ATableThatShrinksBetweenTheCallsFails) {
+    FakeFirmwareTable firmware(TableOfVersion(2, 8, 0));
+    firmware.ClaimToFill(10);
+    EXPECT_EQ(TextOfFailedLoad(),
+              "Failed to retrieve data from firmware table. Origin: "
+              "SMBIOS::Manager::SmbiosManager::UpdateBiosInfo");
+}
+
+TEST(SmbiosManager, ATableThatGrowsBetweenTheCallsFails) {
+    FakeFirmwareTable firmware(TableOfVersion(2, 8, 0));
+    firmware.ClaimToFill(1000);
+    EXPECT_EQ(TextOfFailedLoad(),
+              "Failed to retrieve data from firmware table. Origin: "
+              "SMBIOS::Manager::SmbiosManager::UpdateBiosInfo");
+}
+
+TEST(SmbiosManager, ABareHeaderOf8BytesIsCorrupted) {
+    const FakeFirmwareTable firmware({0, 2, 8, 0, 0, 0, 0, 0});
+    EXPECT_EQ(TextOfFailedLoad(),
+              "SMBIOS structure is corrupted. Origin: SMBIOS::Manager::SmbiosManager::UpdateBiosInfo");
+}
+
+TEST(SmbiosManager, A9ByteTableLoadsWithNothingFiled) {
+    FakeFirmwareTable firmware({0, 2, 8, 0, 1, 0, 0, 0, 17});
+    EXPECT_EQ(TextOfFailedLoad(), "");
+    EXPECT_TRUE(TheManager().GetStructuresByType(StructureTypes::MemoryDevice).empty());
+    EXPECT_TRUE(TheManager().GetStructuresByType(StructureTypes::Unknown).empty());
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(firmware.SizeQueries(), 1);
+}
+
+TEST(SmbiosManager, TheLengthFieldOfTheHeaderIsIgnored) {
+    std::vector<std::uint8_t> table =
+        TableBuilder(2, 8, 0).Add(MemoryDevice(1)).Add(MemoryDevice(2)).RawTable();
+    table[4] = 1;
+    table[7] = 0xFF;
+    const FakeFirmwareTable firmware(table);
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(HandlesOf(StructureTypes::MemoryDevice), (std::vector<std::uint16_t>{1, 2}));
+}
+
+TEST(SmbiosManager, TwoLoadsReadTheFirmwareTableOnce) {
+    const FakeFirmwareTable firmware(TableOfVersion(2, 8, 0));
+    TheManager().UpdateBiosInfo();
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(firmware.SizeQueries(), 1);
+}
+
+TEST(SmbiosManager, AFailedLoadFilesNothingAndIsTriedAgain) {
+    FakeFirmwareTable firmware({0, 2, 8, 0, 0, 0, 0, 0});
+    EXPECT_NE(TextOfFailedLoad(), "");
+    EXPECT_TRUE(TheManager().GetStructuresByType(StructureTypes::MemoryDevice).empty());
+
+    firmware.Supply(TableBuilder(2, 8, 0).Add(MemoryDevice(7)).RawTable());
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(firmware.SizeQueries(), 2);
+    EXPECT_EQ(HandlesOf(StructureTypes::MemoryDevice), std::vector<std::uint16_t>{7});
+}
+
+TEST(SmbiosManager, AThreadThatWaitsForALoadFindsItDone) {
+    const FakeFirmwareTable firmware(TableOfVersion(2, 8, 0));
+    std::thread one([] { TheManager().UpdateBiosInfo(); });
+    std::thread two([] { TheManager().UpdateBiosInfo(); });
+    one.join();
+    two.join();
+    EXPECT_EQ(firmware.SizeQueries(), 1);
+}
+
+// Version
+
+TEST(SmbiosManager, HeaderBytes2And7And1GiveVersion271) {
+    const FakeFirmwareTable firmware(TableOfVersion(2, 7, 1));
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(TheManager().GetVersion(), "2.7.1");
+    EXPECT_EQ(static_cast<int>(Manager::currentVersionIndex), 13);
+}
+
+TEST(SmbiosManager, HeaderBytes3And0And0GiveVersion300) {
+    const FakeFirmwareTable firmware(TableOfVersion(3, 0, 0));
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(TheManager().GetVersion(), "3.0.0");
+}
+
+TEST(SmbiosManager, VersionNumbersAreDecimalWithoutLeadingZeros) {
+    const FakeFirmwareTable firmware(TableOfVersion(3, 10, 255));
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(TheManager().GetVersion(), "3.10.255");
+}
+
+TEST(SmbiosManager, Version371HasIndex24) {
+    const FakeFirmwareTable firmware(TableOfVersion(3, 7, 1));
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(static_cast<int>(Manager::currentVersionIndex), 24);
+}
+
+TEST(SmbiosManager, Version240HasIndex8) {
+    const FakeFirmwareTable firmware(TableOfVersion(2, 4, 0));
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(static_cast<int>(Manager::currentVersionIndex), 8);
+}
+
+TEST(SmbiosManager, AnUnlistedVersionKeepsTheIndex) {
+    Manager::currentVersionIndex = v2_8_0;
+    const FakeFirmwareTable firmware(TableOfVersion(2, 3, 1));
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(Manager::currentVersionIndex, v2_8_0);
+}
+
+TEST(SmbiosManager, AnUnlistedVersionInAFreshProcessReadsAs200AndRefusesMemoryDevices) {
+    const FakeFirmwareTable firmware(TableBuilder(3, 9, 0).Add(MemoryDevice(1)).RawTable());
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(Manager::currentVersionIndex, v2_0_0);
+    const auto devices = TheManager().GetStructuresByType(StructureTypes::MemoryDevice);
+    ASSERT_EQ(devices.size(), 1U);
+    EXPECT_EQ(std::dynamic_pointer_cast<Type_17>(devices[0])->GetRecord()->error, kMalformed);
+}
+
+// Filing
+
+TEST(SmbiosManager, StructuresOfOneTypeKeepTableOrder) {
+    const FakeFirmwareTable firmware(TableBuilder(2, 8, 0)
+                                         .Add(MemoryDevice(0x30))
+                                         .Add({1, 8, 0x01})
+                                         .Add(MemoryDevice(0x10))
+                                         .Add(MemoryDevice(0x20))
+                                         .Add(MemoryDevice(0x10))
+                                         .RawTable());
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(HandlesOf(StructureTypes::MemoryDevice), (std::vector<std::uint16_t>{0x30, 0x10, 0x20, 0x10}));
+}
+
+TEST(SmbiosManager, TypesWithoutADecoderAreFiledUnderUnknownOnly) {
+    const FakeFirmwareTable firmware(
+        TableBuilder(2, 8, 0).Add({200, 4, 0x01}).Add({126, 4, 0x02}).Add({127, 4, 0x03}).RawTable());
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(HandlesOf(StructureTypes::Unknown), (std::vector<std::uint16_t>{1, 2, 3}));
+    EXPECT_TRUE(TheManager().GetStructuresByType(StructureTypes{126}).empty());
+    EXPECT_TRUE(TheManager().GetStructuresByType(StructureTypes{127}).empty());
+}
+
+TEST(SmbiosManager, AnUnknownStructureKeepsItsTypeNumber) {
+    const FakeFirmwareTable firmware(TableBuilder(2, 8, 0).Add({200, 4}).RawTable());
+    TheManager().UpdateBiosInfo();
+    const auto unknown = TheManager().GetStructuresByType(StructureTypes::Unknown);
+    ASSERT_EQ(unknown.size(), 1U);
+    EXPECT_EQ(std::dynamic_pointer_cast<UnknownType>(unknown[0])->GetRecord()->type, 200);
+}
+
+TEST(SmbiosManager, AStructureThatIsRefusedDoesNotFailTheLoad) {
+    const FakeFirmwareTable firmware(
+        TableBuilder(2, 8, 0).Add({17, 0x10, 0x01}).Add(MemoryDevice(2)).RawTable());
+    TheManager().UpdateBiosInfo();
+    EXPECT_EQ(HandlesOf(StructureTypes::MemoryDevice), (std::vector<std::uint16_t>{0, 2}));
+}
+
+}  // namespace
+}  // namespace SMBIOS::Tests

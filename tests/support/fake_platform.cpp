@@ -1,0 +1,31 @@
+#include "tests/support/fake_platform.h"
+
+#include <algorithm>
+
+namespace SMBIOS::Tests {
+
+std::uint32_t FakeFirmwareTable::Read(std::uint32_t provider,
+                                      std::uint32_t tableId,
+                                      std::span<std::uint8_t> buffer) {
+    if (provider != Platform::kRawSmbiosProvider || tableId != Platform::kRawSmbiosTableId) {
+        return 0;
+    }
+    const auto size = static_cast<std::uint32_t>(table_.size());
+    if (buffer.empty()) {
+        ++sizeQueries_;
+        return size;
+    }
+    std::copy_n(table_.begin(), std::min(table_.size(), buffer.size()), buffer.begin());
+    return claimedSize_.value_or(size);
+}
+
+bool FakeCommandRunner::Run(const std::string& commandLine, std::string& output) {
+    commandLines_.push_back(commandLine);
+    if (!answer_) {
+        return false;
+    }
+    output = *answer_;
+    return true;
+}
+
+}  // namespace SMBIOS::Tests
