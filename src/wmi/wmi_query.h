@@ -1,0 +1,44 @@
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace SMBIOS::Wmi {
+
+/// Names of WMI properties, in the byte-wise order in which they stand in a query.
+using PropertySet = std::set<std::string, std::less<>>;
+
+/// One query over the instances of a WMI class, run by PowerShell and answered as JSON. A plain value; set
+/// `wmiNamespace`, call `Select`, then `Where` if there is something to filter on, then `FetchByKey`.
+struct WmiQuery {
+    std::string selectClause;
+    std::string whereClause;  ///< begins with " WHERE "; empty for no filter
+    std::string wmiNamespace;
+
+    /// Replaces the select clause.
+    void Select(const PropertySet& properties, std::string_view className);
+
+    /// Replaces the filter: `property` equal to any of `values`, which are inserted as they are. `values`
+    /// must not be empty.
+    void Where(std::string_view property, const std::vector<std::string>& values);
+
+    /// The command line that runs the query.
+    [[nodiscard]] std::string CommandLine() const;
+
+    /// Runs the query; `output` becomes everything PowerShell printed. Returns false, leaving `output`
+    /// untouched, when PowerShell cannot be started.
+    [[nodiscard]] bool RunPowerShell(std::string& output) const;
+
+    /// Runs the query and files the requested properties of every instance under the text of its
+    /// `keyProperty`; the first instance of a key stays. `result` is null when nothing was found or
+    /// PowerShell cannot be started. Throws nlohmann::json's own exceptions for text that is not JSON and for
+    /// a key that is not text.
+    void FetchByKey(nlohmann::json& result,
+                    const std::string& keyProperty,
+                    const PropertySet& properties) const;
+};
+
+}  // namespace SMBIOS::Wmi
