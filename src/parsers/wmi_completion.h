@@ -1,0 +1,208 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <span>
+#include <string>
+#include <type_traits>
+#include <variant>
+#include <vector>
+
+#include "wmi/wmi_query.h"
+
+namespace SMBIOS::Parsers {
+
+/// When a property is asked of WMI.
+enum class Asked : std::uint8_t {
+    whenMissing,  ///< when the record lacks the value; whatever comes back is stored
+    always,       ///< always; only a text that is not empty is stored
+};
+
+/// One value that WMI may complete: the property asked for, the member of the answer that is stored, and the
+/// field of the record.
+template <class Record>
+struct WmiProperty {
+    using Field = std::variant<std::string Record::*,
+                               std::optional<bool> Record::*,
+                               std::optional<std::uint8_t> Record::*,
+                               std::optional<std::uint16_t> Record::*,
+                               std::optional<std::uint32_t> Record::*,
+                               std::optional<std::uint64_t> Record::*>;
+
+    const char* requested;
+    const char* stored;
+    Field field;
+    Asked asked = Asked::whenMissing;
+
+    [[nodiscard]] bool IsMissing(const Record& record) const {
+        if (asked == Asked::always) {
+            return true;
+        }
+        return std::visit(
+            [&](auto member) {
+                if constexpr (std::is_same_v<decltype(member), std::string Record::*>) {
+                    return (record.*member).empty();
+                } else {
+                    return !(record.*member).has_value();
+                }
+            },
+            field);
+    }
+
+    /// Stores `value` as the field's own type. Throws nlohmann::json's type error when it does not fit.
+    void Store(Record& record, const nlohmann::json& value) const {
+        if (asked == Asked::always && (!value.is_string() || value.get_ref<const std::string&>().empty())) {
+            return;
+        }
+        std::visit(
+            [&](auto member) {
+                if constexpr (std::is_same_v<decltype(member), std::string Record::*>) {
+                    record.*member = value.get<std::string>();
+                } else {
+                    using Value = typename std::remove_cvref_t<decltype(record.*member)>::value_type;
+                    record.*member = value.get<Value>();
+                }
+            },
+            field);
+    }
+};
+
+/// Where the values of one kind of record can be completed from.
+template <class Record>
+struct WmiSource {
+    const char* className;
+    const char* keyProperty;        ///< the property that tells the instances apart
+    std::string Record::*keyField;  ///< the field that holds it
+    std::span<const WmiProperty<Record>> properties;
+};
+
+/// The rows of an exported class: firmware records filed by their key and completed from WMI. Records are
+/// shared with the decoders, so completion writes into theirs; a row that only WMI knows is its own.
+template <class Record>
+class CompletedRecords {
+public:
+    using Records = std::vector<std::shared_ptr<Record>>;
+
+    explicit CompletedRecords(const WmiSource<Record>& source)
+        : source_(source), allProperties_(AllProperties(source)) {}
+
+    [[nodiscard]] std::size_t Count() const noexcept { return rows_.size(); }
+
+    /// Row `index`; nullptr when it is out of range.
+    [[nodiscard]] Record* Row(std::size_t index) const noexcept {
+        return index < rows_.size() ? rows_[index].get() : nullptr;
+    }
+
+    void ClearRows() noexcept { rows_.clear(); }
+
+    /// Files the records, asks WMI once for what is missing, and makes the rows in ascending key order. What
+    /// was filed by earlier calls stays. Failures of the completion are swallowed: it is an extra.
+    void Rebuild(const Records& records) {
+        Request request;
+        for (const std::shared_ptr<Record>& record : records) {
+            FileRecord(record, request);
+        }
+        if (!request.properties.empty()) {
+            try {
+                CompleteFromWmi(request);
+            } catch (...) {  // NOLINT(bugprone-empty-catch): what was stored so far stays
+            }
+        }
+        for (const auto& [key, record] : recordsByKey_) {
+            rows_.push_back(record);
+        }
+    }
+
+private:
+    /// What one call asks of WMI.
+    struct Request {
+        Wmi::PropertySet properties;
+        std::vector<std::string> keys;  ///< of the records to complete; empty for no filter
+    };
+
+    void FileRecord(const std::shared_ptr<Record>& record, Request& request) {
+        const std::string& key = (*record).*source_.keyField;
+        if (key.empty() || request.properties == allProperties_) {
+            // Such a record cannot be told apart in an answer, so everything is asked of every instance. The
+            // record is not filed, and neither are those behind it: they come back as rows made by WMI.
+            request.keys.clear();
+            request.properties = allProperties_;
+            return;
+        }
+        bool anyMissing = false;
+        for (const WmiProperty<Record>& property : source_.properties) {
+            if (property.IsMissing(*record)) {
+                request.properties.emplace(property.requested);
+                anyMissing = true;
+            }
+        }
+        if (anyMissing) {
+            request.keys.push_back(key);
+        }
+        recordsByKey_.try_emplace(key, record);
+    }
+
+    void CompleteFromWmi(Request& request) {
+        request.properties.emplace(source_.keyProperty);
+
+        Wmi::WmiQuery query;
+        query.wmiNamespace = "root\\cimv2";
+        query.Select(request.properties, source_.className);
+        if (!request.keys.empty()) {
+            query.Where(source_.keyProperty, request.keys);
+        }
+        nlohmann::json instancesByKey;
+        query.FetchByKey(instancesByKey, source_.keyProperty, request.properties);
+        for (const auto& [key, instance] : instancesByKey.items()) {
+            StoreMembers(RecordOf(key), instance, request.properties);
+        }
+    }
+
+    /// The record filed under `key`; a fresh one is filed when there is none.
+    [[nodiscard]] Record& RecordOf(const std::string& key) {
+        const auto filed = recordsByKey_.find(key);
+        if (filed != recordsByKey_.end()) {
+            return *filed->second;
+        }
+        return *recordsByKey_.emplace(key, std::make_shared<Record>()).first->second;
+    }
+
+    void StoreMembers(Record& record,
+                      const nlohmann::json& instance,
+                      const Wmi::PropertySet& requested) const {
+        for (const std::string& name : requested) {
+            const WmiProperty<Record>* const property = FindStored(name);
+            if (property != nullptr && instance.contains(name)) {
+                property->Store(record, instance.at(name));
+            }
+        }
+    }
+
+    [[nodiscard]] const WmiProperty<Record>* FindStored(const std::string& name) const {
+        for (const WmiProperty<Record>& property : source_.properties) {
+            if (name == property.stored) {
+                return &property;
+            }
+        }
+        return nullptr;
+    }
+
+    [[nodiscard]] static Wmi::PropertySet AllProperties(const WmiSource<Record>& source) {
+        Wmi::PropertySet names;
+        for (const WmiProperty<Record>& property : source.properties) {
+            names.emplace(property.requested);
+        }
+        return names;
+    }
+
+    const WmiSource<Record>& source_;
+    const Wmi::PropertySet allProperties_;
+    Records rows_;
+    std::map<std::string, std::shared_ptr<Record>> recordsByKey_;
+};
+
+}  // namespace SMBIOS::Parsers
