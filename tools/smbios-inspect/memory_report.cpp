@@ -1,0 +1,127 @@
+#include "smbios-inspect/memory_report.h"
+
+#include <ostream>
+
+#include "smbios-inspect/getter_values.h"
+#include "smbios-inspect/json_output.h"
+#include "smbios-inspect/text_table.h"
+#include "smbios-inspect/units.h"
+#include "smbios/memory_info.h"
+
+namespace SMBIOS::Inspect {
+
+using Parsers::MemoryInfo;
+
+namespace {
+
+constexpr RowValue<MemoryInfo> kValues[] = {
+    {"DeviceSet", ValueOf<&MemoryInfo::GetDeviceSet>},
+    {"DataWidth", ValueOf<&MemoryInfo::GetDataWidth>},
+    {"TotalWidth", ValueOf<&MemoryInfo::GetTotalWidth>},
+    {"MemoryType", ValueOf<&MemoryInfo::GetMemoryType>},
+    {"StringifiedMemoryType", ValueOf<&MemoryInfo::GetStringifiedMemoryType>},
+    {"PhysicalMemoryArrayHandle", ValueOf<&MemoryInfo::GetPhysicalMemoryArrayHandle>},
+    {"MemoryErrorInformationHandle", ValueOf<&MemoryInfo::GetMemoryErrorInformationHandle>},
+    {"FormFactor", ValueOf<&MemoryInfo::GetFormFactor>},
+    {"StringifiedFormFactor", ValueOf<&MemoryInfo::GetStringifiedFormFactor>},
+    {"DeviceLocator", ValueOf<&MemoryInfo::GetDeviceLocator>},
+    {"TypeDetail", ValueOf<&MemoryInfo::GetTypeDetail>},
+    {"BitsetTypeDetail", ValueOf<&MemoryInfo::GetBitsetTypeDetail>},
+    {"Speed", ValueOf<&MemoryInfo::GetSpeed>},
+    {"Manufacturer", ValueOf<&MemoryInfo::GetManufacturer>},
+    {"SerialNumber", ValueOf<&MemoryInfo::GetSerialNumber>},
+    {"AssetTag", ValueOf<&MemoryInfo::GetAssetTag>},
+    {"PartNumber", ValueOf<&MemoryInfo::GetPartNumber>},
+    {"Rank", ValueOf<&MemoryInfo::GetRank>},
+    {"ConfiguredSpeed", ValueOf<&MemoryInfo::GetConfiguredSpeed>},
+    {"MinVoltageInmV", ValueOf<&MemoryInfo::GetMinVoltageInmV>},
+    {"MaxVoltageInmV", ValueOf<&MemoryInfo::GetMaxVoltageInmV>},
+    {"ConfiguredVoltageInmV", ValueOf<&MemoryInfo::GetConfiguredVoltageInmV>},
+    {"MemoryTechnology", ValueOf<&MemoryInfo::GetMemoryTechnology>},
+    {"StringifiedMemoryTechnology", ValueOf<&MemoryInfo::GetStringifiedMemoryTechnology>},
+    {"MemoryOperatingModeCapability", ValueOf<&MemoryInfo::GetMemoryOperatingModeCapability>},
+    {"StringifiedMemoryOperatingModeCapability",
+     ValueOf<&MemoryInfo::GetStringifiedMemoryOperatingModeCapability>},
+    {"FirmwareVersion", ValueOf<&MemoryInfo::GetFirmwareVersion>},
+    {"CacheSize", ValueOf<&MemoryInfo::GetCacheSize>},
+    {"LogicalSize", ValueOf<&MemoryInfo::GetLogicalSize>},
+    {"VolatileSize", ValueOf<&MemoryInfo::GetVolatileSize>},
+    {"NonVolatileSize", ValueOf<&MemoryInfo::GetNonVolatileSize>},
+    {"ModuleProductId", ValueOf<&MemoryInfo::GetModuleProductId>},
+    {"ModuleManufacturerId", ValueOf<&MemoryInfo::GetModuleManufacturerId>},
+    {"MemorySubsystemControllerManufacturerId",
+     ValueOf<&MemoryInfo::GetMemorySubsystemControllerManufacturerId>},
+    {"MemorySubsystemControllerProductId", ValueOf<&MemoryInfo::GetMemorySubsystemControllerProductId>},
+    {"RCDManufacturerId", ValueOf<&MemoryInfo::GetRCDManufacturerId>},
+    {"RCDRevisionNumber", ValueOf<&MemoryInfo::GetRCDRevisionNumber>},
+    {"PMIC0ManufacturerId", ValueOf<&MemoryInfo::GetPMIC0ManufacturerId>},
+    {"PMIC0RevisionNumber", ValueOf<&MemoryInfo::GetPMIC0RevisionNumber>},
+    {"BankLocator", ValueOf<&MemoryInfo::GetBankLocator>},
+    {"PositionInRow", ValueOf<&MemoryInfo::GetPositionInRow>},
+    {"SizeInKB", ValueOf<&MemoryInfo::GetSizeInKB>},
+    {"RawData", RawDataOf<MemoryInfo>},
+    {"StringSession", StringSessionOf<MemoryInfo>},
+    {"HasError", ValueOf<&MemoryInfo::HasError>},
+    {"ErrorMessage", ValueOf<&MemoryInfo::GetErrorMessage>},
+};
+
+/// The size with its unit: the library gives it as the firmware counts it, in bytes or in kilobytes.
+std::string SizeText(const MemoryInfo& info, std::size_t index) {
+    const std::uint64_t size = info.GetSizeInKB(index);
+    if (size == std::numeric_limits<std::uint64_t>::max()) {
+        return {};
+    }
+    std::size_t rawSize = 0;
+    const std::uint8_t* const raw = info.DumpRawData(index, rawSize);
+    const bool isKilobytes = rawSize > 0x0D && (raw[0x0D] & 0x80U) != 0 &&
+                             size == static_cast<std::uint64_t>((raw[0x0D] & 0x7FU) << 8 | raw[0x0C]);
+    return ByteSizeText(isKilobytes ? size * 1024 : size);
+}
+
+/// 0 is how the firmware says that it does not know.
+template <class Number>
+std::string KnownNumberText(Number number, const char* unit) {
+    return number == 0 ? std::string() : NumberText(number, unit);
+}
+
+void PrintTable(const MemoryInfo& info, std::ostream& output) {
+    TextTable table({"LOCATOR",
+                     "BANK",
+                     "SIZE",
+                     "TYPE",
+                     "FORM FACTOR",
+                     "SPEED",
+                     "RUNS AT",
+                     "VOLTAGE",
+                     "MANUFACTURER",
+                     "PART NUMBER",
+                     "SERIAL NUMBER"});
+    for (std::size_t i = 0; i < info.GetMemoryDeviceCount(); ++i) {
+        table.Add({TextOrNothing(info.GetDeviceLocator(i)),
+                   TextOrNothing(info.GetBankLocator(i)),
+                   SizeText(info, i),
+                   TextOrNothing(info.GetStringifiedMemoryType(i)),
+                   TextOrNothing(info.GetStringifiedFormFactor(i)),
+                   KnownNumberText(info.GetSpeed(i), " MT/s"),
+                   KnownNumberText(info.GetConfiguredSpeed(i), " MT/s"),
+                   KnownNumberText(info.GetConfiguredVoltageInmV(i), " mV"),
+                   TextOrNothing(info.GetManufacturer(i)),
+                   TextOrNothing(info.GetPartNumber(i)),
+                   TextOrNothing(info.GetSerialNumber(i))});
+    }
+    table.Print(output);
+}
+
+}  // namespace
+
+void ReportMemory(const Options& options, std::ostream& output) {
+    MemoryInfo info;
+    info.RetrieveInfo();
+    if (options.json) {
+        PrintJson(RowsToJson("devices", info, info.GetMemoryDeviceCount(), kValues), output);
+    } else {
+        PrintTable(info, output);
+    }
+}
+
+}  // namespace SMBIOS::Inspect
