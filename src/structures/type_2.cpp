@@ -30,8 +30,7 @@ std::optional<std::vector<std::uint16_t>> ContainedObjectHandlesOf(const Structu
         return std::nullopt;
     }
     std::vector<std::uint16_t> handles;
-    // Departs from the standard: the bound counts from the type byte, so that the last 7 handles are not
-    // read.
+    // Departs from the standard: the bound counts from the type byte, so the last 7 handles are not read.
     for (std::size_t offset = 0x0F; offset < 2 * count; offset += 2) {
         handles.push_back(in.Word(offset));
     }
