@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "tests/support/decode.h"
-#include "tests/support/narrow_names.h"
 namespace SMBIOS::Tests {
 namespace {
 

@@ -57,14 +57,20 @@ void ExpectAcceptance(std::uint8_t type, const AcceptanceCase (&cases)[Count]) {
     }
 }
 
-/// Expects that each of the 256 byte codes has the name its row gives, and no name without a row.
+/// Expects that each code of this many bits has the name its row gives, and no name without a row.
 template <std::size_t Count, class NameOf>
-void ExpectNames(const std::pair<int, const char*> (&rows)[Count], NameOf nameOf) {
+void ExpectNarrowNames(unsigned bits, const std::pair<int, const char*> (&rows)[Count], NameOf nameOf) {
     std::map<int, std::string> expected(std::begin(rows), std::end(rows));
     EXPECT_EQ(expected.size(), Count) << "a row stands twice in the expectation";
-    for (int code = 0; code <= 0xFF; ++code) {
+    for (int code = 0; code < (1 << bits); ++code) {
         EXPECT_EQ(nameOf(static_cast<std::uint8_t>(code)), expected[code]) << "code " << code;
     }
+}
+
+/// The same for each of the 256 byte codes.
+template <std::size_t Count, class NameOf>
+void ExpectNames(const std::pair<int, const char*> (&rows)[Count], NameOf nameOf) {
+    ExpectNarrowNames(8, rows, nameOf);
 }
 
 /// Expects the set's list of names, bit 0 first.
