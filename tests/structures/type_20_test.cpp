@@ -22,38 +22,6 @@ StructureBuilder MappedAddress(std::uint8_t length) {
 
 // What is accepted
 
-TEST(Type20, RefusesEveryStructureOfA200Table) {
-    const auto record = Decode<Type_20>(v2_0_0, MappedAddress(0x13));
-    EXPECT_EQ(record->error, kMalformed);
-    EXPECT_EQ(record->handle, 0);
-}
-
-TEST(Type20, AcceptsEveryVersionFrom210On) {
-    const auto record = Decode<Type_20>(v2_1_0, MappedAddress(0x13));
-    EXPECT_EQ(record->error, "");
-    EXPECT_EQ(record->handle, kHandle);
-    EXPECT_EQ(Decode<Type_20>(v3_8_0, MappedAddress(0x13))->error, "");
-}
-
-TEST(Type20, AcceptsEveryLengthFromTheHeaderOn) {
-    const AcceptanceCase cases[] = {
-        {0x03, v2_1_0, kMalformed},
-        {0x04, v2_1_0, ""},
-        {0x05, v2_1_0, ""},
-        {0xFF, v2_1_0, ""},
-        {0xFF, v3_8_0, ""},
-    };
-    ExpectAcceptance<Type_20>(20, cases);
-}
-
-TEST(Type20, ReportsAnEmptyFormattedAreaAsAnInvalidPointer) {
-    EXPECT_EQ(DecodeBytes<Type_20>(v2_8_0, {})->error, kInvalidPointer);
-}
-
-TEST(Type20, ReportsThreeBytesAsMalformed) {
-    EXPECT_EQ(DecodeBytes<Type_20>(v2_8_0, {20, 0x23, 0x13})->error, kMalformed);
-}
-
 TEST(Type20, RefusesOnlyALengthOf35Before270) {
     const char* const kNewerStructure = "v2.7.0 structure or later in a v2.6.1 BIOS or older";
     const AcceptanceCase cases[] = {
@@ -81,90 +49,6 @@ TEST(Type20, ARefusedStructureKeepsOnlyErrorAndRawBytes) {
     EXPECT_FALSE(record->memoryDeviceHandle);
     EXPECT_EQ(record->rawBytes.size(), 35U);
     EXPECT_FALSE(record->strings);
-}
-
-TEST(Type20, AnAcceptedStructureKeepsItsStrings) {
-    const auto record = Decode<Type_20>(v2_8_0, MappedAddress(0x23).String("text"));
-    ASSERT_TRUE(record->strings);
-    EXPECT_EQ(*record->strings, std::vector<std::string>{"text"});
-}
-
-TEST(Type20, AnAcceptedStructureWithoutStringsHasAnEmptyStringSet) {
-    const auto record = Decode<Type_20>(v2_8_0, MappedAddress(0x23));
-    ASSERT_TRUE(record->strings);
-    EXPECT_TRUE(record->strings->empty());
-}
-
-// Addresses
-
-/// A structure that has both extended addresses, whatever its length byte says.
-StructureBuilder ExtendedAddresses(std::uint32_t starting, std::uint32_t ending) {
-    return MappedAddress(0x13)
-        .Dword(0x04, starting)
-        .Dword(0x08, ending)
-        .Qword(0x13, 0x0000000100000000)
-        .Qword(0x1B, 0x0123456789ABCDEF);
-}
-
-TEST(Type20, AddressesAreTextsOfTheDwordsAt04And08) {
-    const auto record =
-        Decode<Type_20>(v2_1_0, MappedAddress(0x13).Dword(0x04, 0x00000400).Dword(0x08, 0x12345678));
-    EXPECT_EQ(record->startingAddress, "0x0400");
-    EXPECT_EQ(record->endingAddress, "0x12345678");
-}
-
-TEST(Type20, AddressesOfZeroAreValues) {
-    const auto record = Decode<Type_20>(v2_1_0, MappedAddress(0x13));
-    EXPECT_EQ(record->startingAddress, "0x0000");
-    EXPECT_EQ(record->endingAddress, "0x0000");
-}
-
-TEST(Type20, AddressesOtherThanFFFFFFFFIgnoreTheExtendedOnes) {
-    const auto record = Decode<Type_20>(v3_0_0, ExtendedAddresses(0x00000400, 0xFFFFFFFE));
-    EXPECT_EQ(record->startingAddress, "0x0400");
-    EXPECT_EQ(record->endingAddress, "0xFFFFFFFE");
-}
-
-TEST(Type20, AddressesOfFFFFFFFFTakeTheExtendedOnesFrom270On) {
-    for (const auto version : {v2_7_0, v2_7_1, v3_0_0}) {
-        const auto record = Decode<Type_20>(version, ExtendedAddresses(0xFFFFFFFF, 0xFFFFFFFF));
-        EXPECT_EQ(record->startingAddress, "0x100000000");
-        EXPECT_EQ(record->endingAddress, "0x123456789ABCDEF");
-    }
-}
-
-TEST(Type20, AddressesOfFFFFFFFFAreEmptyBefore270) {
-    for (const auto version : {v2_6_0, v2_6_1}) {
-        const auto record = Decode<Type_20>(version, ExtendedAddresses(0xFFFFFFFF, 0xFFFFFFFF));
-        EXPECT_EQ(record->error, "");
-        EXPECT_EQ(record->startingAddress, "");
-        EXPECT_EQ(record->endingAddress, "");
-    }
-}
-
-TEST(Type20, EachAddressIsExtendedOnItsOwn) {
-    const auto record = Decode<Type_20>(v3_0_0, ExtendedAddresses(0x00000400, 0xFFFFFFFF));
-    EXPECT_EQ(record->startingAddress, "0x0400");
-    EXPECT_EQ(record->endingAddress, "0x123456789ABCDEF");
-}
-
-TEST(Type20, AShortExtendedAddressHasAtLeastEightDigits) {
-    const auto record =
-        Decode<Type_20>(v2_7_0, MappedAddress(0x23).Dword(0x04, 0xFFFFFFFF).Qword(0x13, 0x12));
-    EXPECT_EQ(record->startingAddress, "0x00000012");
-}
-
-TEST(Type20, ExtendedAddressesOfAllOnesAreValues) {
-    const auto record =
-        Decode<Type_20>(v2_7_0, MappedAddress(0x23).Dword(0x08, 0xFFFFFFFF).Qword(0x1B, 0xFFFFFFFFFFFFFFFF));
-    EXPECT_EQ(record->endingAddress, "0xFFFFFFFFFFFFFFFF");
-}
-
-TEST(Type20, ExtendedAddressesPastAShortStructureReadAsZero) {
-    const auto record =
-        Decode<Type_20>(v2_7_0, MappedAddress(0x13).Dword(0x04, 0xFFFFFFFF).Dword(0x08, 0xFFFFFFFF));
-    EXPECT_EQ(record->startingAddress, "0x00000000");
-    EXPECT_EQ(record->endingAddress, "0x00000000");
 }
 
 // Other fields
