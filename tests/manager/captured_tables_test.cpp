@@ -2,36 +2,13 @@
 
 #include <filesystem>
 #include <optional>
+#include <ostream>
 #include <set>
 #include <string>
 
 #include "manager/smbios_manager.h"
 #include "platform/saved_table.h"
-#include "structures/type_0.h"
-#include "structures/type_1.h"
-#include "structures/type_11.h"
-#include "structures/type_16.h"
-#include "structures/type_17.h"
-#include "structures/type_18.h"
-#include "structures/type_19.h"
-#include "structures/type_2.h"
-#include "structures/type_20.h"
-#include "structures/type_21.h"
-#include "structures/type_22.h"
-#include "structures/type_26.h"
-#include "structures/type_27.h"
-#include "structures/type_28.h"
-#include "structures/type_29.h"
-#include "structures/type_3.h"
-#include "structures/type_32.h"
-#include "structures/type_33.h"
-#include "structures/type_39.h"
-#include "structures/type_4.h"
-#include "structures/type_41.h"
-#include "structures/type_43.h"
-#include "structures/type_7.h"
-#include "structures/type_8.h"
-#include "structures/type_9.h"
+#include "structures/all_decoders.h"
 #include "tests/support/decode.h"
 #include "tests/support/fake_platform.h"
 
@@ -47,6 +24,8 @@ struct Capture {
     const char* file;
     const char* version;
     std::size_t structures;
+
+    friend void PrintTo(const Capture& capture, std::ostream* output) { *output << capture.file; }
 };
 
 constexpr Capture kCaptures[] = {

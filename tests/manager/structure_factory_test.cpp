@@ -4,32 +4,7 @@
 
 #include <set>
 
-#include "structures/type_0.h"
-#include "structures/type_1.h"
-#include "structures/type_11.h"
-#include "structures/type_16.h"
-#include "structures/type_17.h"
-#include "structures/type_18.h"
-#include "structures/type_19.h"
-#include "structures/type_2.h"
-#include "structures/type_20.h"
-#include "structures/type_21.h"
-#include "structures/type_22.h"
-#include "structures/type_26.h"
-#include "structures/type_27.h"
-#include "structures/type_28.h"
-#include "structures/type_29.h"
-#include "structures/type_3.h"
-#include "structures/type_32.h"
-#include "structures/type_33.h"
-#include "structures/type_39.h"
-#include "structures/type_4.h"
-#include "structures/type_41.h"
-#include "structures/type_43.h"
-#include "structures/type_7.h"
-#include "structures/type_8.h"
-#include "structures/type_9.h"
-#include "structures/unknown_type.h"
+#include "structures/all_decoders.h"
 
 namespace SMBIOS::Tests {
 namespace {
