@@ -12,7 +12,6 @@
 #include "platform/command_line.h"
 #include "platform/command_runner.h"
 #include "platform/descriptor.h"
-#include "platform/never_destroyed.h"
 #include "platform/read_pieces.h"
 
 extern char** environ;
@@ -134,10 +133,12 @@ public:
     }
 };
 
+constinit PosixCommandRunner machineCommandRunner;
+
 }  // namespace
 
 CommandRunner& MachineCommandRunner() noexcept {
-    return NeverDestroyed<PosixCommandRunner>();
+    return machineCommandRunner;
 }
 
 }  // namespace SMBIOS::Platform

@@ -3,7 +3,6 @@
 #include <memory>
 
 #include "platform/command_runner.h"
-#include "platform/never_destroyed.h"
 #include "platform/read_pieces.h"
 
 namespace SMBIOS::Platform {
@@ -27,10 +26,12 @@ public:
     }
 };
 
+constinit WindowsCommandRunner machineCommandRunner;
+
 }  // namespace
 
 CommandRunner& MachineCommandRunner() noexcept {
-    return NeverDestroyed<WindowsCommandRunner>();
+    return machineCommandRunner;
 }
 
 }  // namespace SMBIOS::Platform

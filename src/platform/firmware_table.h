@@ -12,14 +12,15 @@ inline constexpr std::uint32_t kRawSmbiosTableId = 0;
 /// Where the raw firmware table comes from: the machine, or a table that a test or a tool supplies.
 class FirmwareTable {
 public:
-    virtual ~FirmwareTable() = default;
-
     /// Fills `buffer` with the table and returns the number of bytes written. A buffer that is empty or too
     /// small is left alone and the size required is returned. 0 means failure: no such table, or no access.
     /// Throws only std::bad_alloc.
     virtual std::uint32_t Read(std::uint32_t provider,
                                std::uint32_t tableId,
                                std::span<std::uint8_t> buffer) = 0;
+
+protected:
+    ~FirmwareTable() = default;  // nobody owns one through this class
 };
 
 /// What stands between the caller and the machine's own table.

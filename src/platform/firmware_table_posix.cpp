@@ -5,7 +5,6 @@
 #include <system_error>
 
 #include "platform/dmi_tables.h"
-#include "platform/never_destroyed.h"
 #include "platform/saved_table_error.h"
 
 namespace SMBIOS::Platform {
@@ -18,6 +17,8 @@ std::uint32_t Deliver(const std::vector<std::uint8_t>& table, std::span<std::uin
     }
     return static_cast<std::uint32_t>(table.size());
 }
+
+constinit PosixFirmwareTable machineFirmwareTable;
 
 }  // namespace
 
@@ -51,7 +52,7 @@ std::vector<std::uint8_t> PosixFirmwareTable::ReadFolder() const {
 }
 
 FirmwareTable& MachineFirmwareTable() noexcept {
-    return NeverDestroyed<PosixFirmwareTable>();
+    return machineFirmwareTable;
 }
 
 FirmwareTableAccess CheckMachineFirmwareTable() noexcept {

@@ -3,7 +3,6 @@
 #include <limits>
 
 #include "platform/firmware_table.h"
-#include "platform/never_destroyed.h"
 #include "platform/windows_api.h"
 
 namespace SMBIOS::Platform {
@@ -21,10 +20,12 @@ public:
     }
 };
 
+constinit WindowsFirmwareTable machineFirmwareTable;
+
 }  // namespace
 
 FirmwareTable& MachineFirmwareTable() noexcept {
-    return NeverDestroyed<WindowsFirmwareTable>();
+    return machineFirmwareTable;
 }
 
 FirmwareTableAccess CheckMachineFirmwareTable() noexcept {

@@ -18,7 +18,7 @@ public:
     explicit FakeFirmwareTable(std::vector<std::uint8_t> table = {}) : table_(std::move(table)) {
         Platform::UseFirmwareTable(this);
     }
-    ~FakeFirmwareTable() override { Platform::UseFirmwareTable(nullptr); }
+    ~FakeFirmwareTable() { Platform::UseFirmwareTable(nullptr); }
 
     std::uint32_t Read(std::uint32_t provider,
                        std::uint32_t tableId,
@@ -41,7 +41,7 @@ private:
 class FakeCommandRunner final : public Platform::CommandRunner {
 public:
     FakeCommandRunner() { Platform::UseCommandRunner(this); }
-    ~FakeCommandRunner() override { Platform::UseCommandRunner(nullptr); }
+    ~FakeCommandRunner() { Platform::UseCommandRunner(nullptr); }
 
     bool Run(const std::string& commandLine, std::string& output) override;
 

@@ -13,7 +13,7 @@ namespace SMBIOS::Tests {
 class StandInPowerShell final : public Platform::CommandRunner {
 public:
     explicit StandInPowerShell(const std::string& answer);
-    ~StandInPowerShell() override;
+    ~StandInPowerShell();
 
     /// Notes the command line and lets the machine's own runner run it.
     bool Run(const std::string& commandLine, std::string& output) override;
