@@ -11,6 +11,11 @@ install(TARGETS smbios-inspect)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
         FILES_MATCHING PATTERN "*.h")
 install(FILES "${version_file}" DESTINATION "${package_dir}")
+if(NOT WIN32)
+    install(FILES "${PROJECT_SOURCE_DIR}/docs/smbios-inspect.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    install(FILES "${PROJECT_SOURCE_DIR}/tools/completion/smbios-inspect.bash"
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME smbios-inspect)
+endif()
 
 # The library needs nothing of its users, so the list of targets is the whole package configuration.
 install(EXPORT ${PROJECT_NAME}-config NAMESPACE vantor:: DESTINATION "${package_dir}")

@@ -1,5 +1,7 @@
 #include "platform/saved_table.h"
 
+#include <array>
+#include <cerrno>
 #include <optional>
 #include <span>
 #include <system_error>
@@ -34,8 +36,26 @@ std::vector<std::uint8_t> FollowEntryPoint(const std::filesystem::path& file,
     return std::move(*raw);
 }
 
-std::vector<std::uint8_t> LoadFile(const std::filesystem::path& file) {
-    FileBytes contents = ReadFileBytes(file);
+FileBytes ReadStream(std::FILE* stream) {
+    FileBytes result;
+    std::array<std::uint8_t, 16384> piece;
+    errno = 0;
+    while (const std::size_t size = std::fread(piece.data(), 1, piece.size(), stream)) {
+        result.bytes.insert(result.bytes.end(), piece.data(), piece.data() + size);
+        if (result.bytes.size() > kLargestFile) {
+            result.error = std::make_error_code(std::errc::file_too_large);
+            return result;
+        }
+    }
+    if (std::ferror(stream) != 0) {
+        const bool hasReason = errno != 0;
+        result.error = hasReason ? std::error_code(errno, std::generic_category())
+                                 : std::make_error_code(std::errc::io_error);
+    }
+    return result;
+}
+
+std::vector<std::uint8_t> LoadFile(FileBytes contents, const std::filesystem::path& file) {
     if (contents.error) {
         throw SavedTableError::Unreadable(file, contents.error);
     }
@@ -52,7 +72,12 @@ std::vector<std::uint8_t> LoadFile(const std::filesystem::path& file) {
 
 std::vector<std::uint8_t> LoadSavedTable(const std::filesystem::path& path) {
     std::error_code ignored;
-    return std::filesystem::is_directory(path, ignored) ? DmiTablesDirectory(path).Read() : LoadFile(path);
+    return std::filesystem::is_directory(path, ignored) ? DmiTablesDirectory(path).Read()
+                                                        : LoadFile(ReadFileBytes(path), path);
+}
+
+std::vector<std::uint8_t> LoadSavedTable(std::FILE* stream, const std::filesystem::path& name) {
+    return LoadFile(ReadStream(stream), name);
 }
 
 }  // namespace SMBIOS::Platform

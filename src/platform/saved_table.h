@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
 #include <vector>
 
@@ -14,5 +15,8 @@ namespace SMBIOS::Platform {
 /// - a folder that holds the files `smbios_entry_point` and `DMI`.
 /// Throws SavedTableError and std::bad_alloc.
 [[nodiscard]] std::vector<std::uint8_t> LoadSavedTable(const std::filesystem::path& path);
+
+/// Reads such a file from `stream`, which is binary, until its end; errors call it `name`.
+[[nodiscard]] std::vector<std::uint8_t> LoadSavedTable(std::FILE* stream, const std::filesystem::path& name);
 
 }  // namespace SMBIOS::Platform

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include "platform/entry_point_bytes.h"
@@ -23,6 +25,14 @@ using Problem = SavedTableError::Problem;
 class SavedTable : public testing::Test {
 protected:
     [[nodiscard]] Bytes Load(const Bytes& file) const { return LoadSavedTable(folder_.Write("saved", file)); }
+
+    using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+    [[nodiscard]] Bytes LoadFromStream(const Bytes& contents) const {
+        const std::string file = folder_.Write("saved", contents).string();
+        const Stream stream(std::fopen(file.c_str(), "rb"), &std::fclose);
+        return LoadSavedTable(stream.get(), "the stream");
+    }
 
     [[nodiscard]] SavedTableError Failure(const std::filesystem::path& path) const {
         try {
@@ -80,6 +90,26 @@ TEST_F(SavedTable, IsReadFromAFolder) {
     folder_.Write("DMI", EndOfTable());
     const Bytes expected{0, 2, 8, 0, 6, 0, 0, 0, 0x7F, 0x04, 0xFF, 0xFE, 0x00, 0x00};
     EXPECT_EQ(LoadSavedTable(folder_.Path()), expected);
+}
+
+TEST_F(SavedTable, IsReadFromAStreamInEitherForm) {
+    const Bytes raw{0, 2, 8, 0, 6, 0, 0, 0, 0x7F, 0x04, 0xFF, 0xFE, 0x00, 0x00};
+    EXPECT_EQ(LoadFromStream(raw), raw);
+    EXPECT_EQ(LoadFromStream(Capture(EntryPoint32(), EndOfTable())), raw);
+}
+
+TEST_F(SavedTable, IsReadFromAStreamToItsEnd) {
+    Bytes raw(100000, 0x2A);
+    EXPECT_EQ(LoadFromStream(raw), raw);
+}
+
+TEST_F(SavedTable, HasTheNameOfItsStreamInTheMessage) {
+    try {
+        (void)LoadFromStream({});
+        FAIL() << "the table was loaded";
+    } catch (const SavedTableError& error) {
+        EXPECT_STREQ(error.what(), "the stream is truncated: nothing follows its 8-byte header");
+    }
 }
 
 TEST_F(SavedTable, IsRefusedWithAWrongChecksum) {

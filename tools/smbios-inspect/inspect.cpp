@@ -6,25 +6,38 @@
 #include "smbios-inspect/memory_report.h"
 #include "smbios-inspect/options.h"
 #include "smbios-inspect/processors_report.h"
+#include "smbios-inspect/save.h"
+#include "smbios-inspect/structures_report.h"
+#include "smbios-inspect/summary_report.h"
 #include "smbios-inspect/table_input.h"
+#include "smbios-inspect/text_table.h"
 
 namespace SMBIOS::Inspect {
 
 namespace {
 
-void Report(const Options& options, std::ostream& output) {
+void Report(const Options& options, const OutputStyle& style, std::ostream& output) {
     switch (options.command) {
+        case Command::summary:
+            ReportSummary(style, output);
+            break;
         case Command::memory:
-            ReportMemory(options, output);
+            ReportMemory(options, style, output);
             break;
         case Command::processors:
-            ReportProcessors(options, output);
+            ReportProcessors(options, style, output);
+            break;
+        case Command::structures:
+            ReportStructures(options, style, output);
+            break;
+        case Command::save:
+            SaveTable(options.target, options.force);
             break;
         case Command::help:
             output << UsageText();
             break;
         case Command::version:
-            output << "smbios-inspect 2.0.0\n";
+            output << "smbios-inspect " SMBIOS_INSPECT_VERSION "\n";
             break;
     }
 }
@@ -35,17 +48,20 @@ bool NeedsTable(Command command) noexcept {
 
 }  // namespace
 
-int Run(std::span<const std::string_view> arguments, std::ostream& output, std::ostream& errors) {
+int Run(std::span<const std::string_view> arguments,
+        const OutputStyle& style,
+        std::ostream& output,
+        std::ostream& errors) {
     try {
         const Options options = ParseOptions(arguments);
         const TableInput table = NeedsTable(options.command) ? TableInput(options.from) : TableInput();
-        Report(options, output);
+        Report(options, style, output);
         return kSuccess;
     } catch (const UsageError& error) {
-        errors << "smbios-inspect: " << error.what() << "\n\n" << UsageText();
+        errors << "smbios-inspect: " << Printable(error.what()) << "\n\n" << UsageText();
         return kWrongUsage;
     } catch (const std::exception& error) {
-        errors << "smbios-inspect: " << error.what() << "\n";
+        errors << "smbios-inspect: " << Printable(error.what()) << "\n";
         return kUnreadable;
     }
 }

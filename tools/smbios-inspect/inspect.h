@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+#include "smbios-inspect/output_style.h"
+
 namespace SMBIOS::Inspect {
 
 inline constexpr int kSuccess = 0;
@@ -12,6 +14,9 @@ inline constexpr int kWrongUsage = 2;
 
 /// The whole tool: does what `arguments`, without the program's name, ask for, prints the result on `output`
 /// and what went wrong on `errors`, and returns the exit status. Once per process: the table is loaded once.
-int Run(std::span<const std::string_view> arguments, std::ostream& output, std::ostream& errors);
+int Run(std::span<const std::string_view> arguments,
+        const OutputStyle& style,
+        std::ostream& output,
+        std::ostream& errors);
 
 }  // namespace SMBIOS::Inspect

@@ -1,15 +1,23 @@
 #include "smbios-inspect/memory_report.h"
 
+#include <cstdint>
+#include <limits>
 #include <ostream>
+#include <string>
 
+#include "manager/smbios_manager.h"
 #include "smbios-inspect/getter_values.h"
 #include "smbios-inspect/json_output.h"
+#include "smbios-inspect/memory_size.h"
 #include "smbios-inspect/text_table.h"
 #include "smbios-inspect/units.h"
+#include "smbios-inspect/unlisted_note.h"
 #include "smbios/memory_info.h"
 
 namespace SMBIOS::Inspect {
 
+using Manager::SmbiosManager;
+using Manager::Types::StructureTypes;
 using Parsers::MemoryInfo;
 
 namespace {
@@ -65,7 +73,6 @@ constexpr RowValue<MemoryInfo> kValues[] = {
     {"ErrorMessage", ValueOf<&MemoryInfo::GetErrorMessage>},
 };
 
-/// The size with its unit: the library gives it as the firmware counts it, in bytes or in kilobytes.
 std::string SizeText(const MemoryInfo& info, std::size_t index) {
     const std::uint64_t size = info.GetSizeInKB(index);
     if (size == std::numeric_limits<std::uint64_t>::max()) {
@@ -73,9 +80,7 @@ std::string SizeText(const MemoryInfo& info, std::size_t index) {
     }
     std::size_t rawSize = 0;
     const std::uint8_t* const raw = info.DumpRawData(index, rawSize);
-    const bool isKilobytes = rawSize > 0x0D && (raw[0x0D] & 0x80U) != 0 &&
-                             size == static_cast<std::uint64_t>((raw[0x0D] & 0x7FU) << 8 | raw[0x0C]);
-    return ByteSizeText(isKilobytes ? size * 1024 : size);
+    return ByteSizeText(MemoryDeviceBytes(size, {raw, rawSize}).value_or(size));
 }
 
 /// 0 is how the firmware says that it does not know.
@@ -84,7 +89,7 @@ std::string KnownNumberText(Number number, const char* unit) {
     return number == 0 ? std::string() : NumberText(number, unit);
 }
 
-void PrintTable(const MemoryInfo& info, std::ostream& output) {
+void PrintTable(const MemoryInfo& info, const OutputStyle& style, std::ostream& output) {
     TextTable table({"LOCATOR",
                      "BANK",
                      "SIZE",
@@ -95,7 +100,8 @@ void PrintTable(const MemoryInfo& info, std::ostream& output) {
                      "VOLTAGE",
                      "MANUFACTURER",
                      "PART NUMBER",
-                     "SERIAL NUMBER"});
+                     "SERIAL NUMBER"},
+                    "no memory devices");
     for (std::size_t i = 0; i < info.GetMemoryDeviceCount(); ++i) {
         table.Add({TextOrNothing(info.GetDeviceLocator(i)),
                    TextOrNothing(info.GetBankLocator(i)),
@@ -109,18 +115,37 @@ void PrintTable(const MemoryInfo& info, std::ostream& output) {
                    TextOrNothing(info.GetPartNumber(i)),
                    TextOrNothing(info.GetSerialNumber(i))});
     }
-    table.Print(output);
+    table.Print(style, output);
+}
+
+std::size_t DevicesInTable() {
+    return SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice).size();
+}
+
+void PrintText(const MemoryInfo& info, const OutputStyle& style, std::ostream& output) {
+    const std::size_t listed = info.GetMemoryDeviceCount();
+    const std::size_t total = DevicesInTable();
+    if (listed != 0 || total == 0) {
+        PrintTable(info, style, output);
+    }
+    PrintUnlistedNote({.listed = listed,
+                       .total = total,
+                       .noun = "memory device",
+                       .identifier = "a serial number",
+                       .type = 17},
+                      style,
+                      output);
 }
 
 }  // namespace
 
-void ReportMemory(const Options& options, std::ostream& output) {
+void ReportMemory(const Options& options, const OutputStyle& style, std::ostream& output) {
     MemoryInfo info;
     info.RetrieveInfo();
     if (options.json) {
         PrintJson(RowsToJson("devices", info, info.GetMemoryDeviceCount(), kValues), output);
     } else {
-        PrintTable(info, output);
+        PrintText(info, style, output);
     }
 }
 

@@ -3,10 +3,11 @@
 #include <iosfwd>
 
 #include "smbios-inspect/options.h"
+#include "smbios-inspect/output_style.h"
 
 namespace SMBIOS::Inspect {
 
 /// Prints the memory devices as `MemoryInfo` gives them. Throws what its RetrieveInfo throws.
-void ReportMemory(const Options& options, std::ostream& output);
+void ReportMemory(const Options& options, const OutputStyle& style, std::ostream& output);
 
 }  // namespace SMBIOS::Inspect

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <set>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -8,13 +10,16 @@
 
 namespace SMBIOS::Inspect {
 
-enum class Command { help, version, memory, processors };
+enum class Command : std::uint8_t { summary, memory, processors, structures, save, help, version };
 
 /// What the command line asks for.
 struct Options {
-    Command command = Command::help;
+    Command command = Command::summary;
     std::optional<std::string> from = std::nullopt;  ///< the saved table to read instead of the machine's
     bool json = false;
+    std::set<std::uint8_t> types = {};  ///< of the structures to show; empty for all
+    std::string target = {};            ///< the file to save the table to
+    bool force = false;                 ///< overwrite that file
 };
 
 /// A command line that asks for nothing the tool can do; what() says why.

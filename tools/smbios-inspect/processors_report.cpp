@@ -1,16 +1,23 @@
 #include "smbios-inspect/processors_report.h"
 
+#include <cstdint>
+#include <limits>
 #include <ostream>
+#include <string>
 
 #include "common/format.h"
+#include "manager/smbios_manager.h"
 #include "smbios-inspect/getter_values.h"
 #include "smbios-inspect/json_output.h"
 #include "smbios-inspect/text_table.h"
 #include "smbios-inspect/units.h"
+#include "smbios-inspect/unlisted_note.h"
 #include "smbios/processor_info.h"
 
 namespace SMBIOS::Inspect {
 
+using Manager::SmbiosManager;
+using Manager::Types::StructureTypes;
 using Parsers::ProcessorInfo;
 
 namespace {
@@ -75,7 +82,7 @@ std::string CacheText(std::uint64_t kilobytes) {
                                                                   : ByteSizeText(kilobytes * 1024);
 }
 
-/// "8 / 16": what there is, then what is enabled when that is known and another number.
+/// "12 (10 enabled)": what is enabled only when that is known and another number.
 std::string CountsText(std::uint16_t count, std::uint16_t enabled) {
     std::string text = NumberText(count);
     if (!text.empty() && enabled != count && !NumberText(enabled).empty()) {
@@ -96,9 +103,10 @@ std::string VoltageText(const ProcessorInfo& info, std::size_t index) {
     return text;
 }
 
-void PrintTable(const ProcessorInfo& info, std::ostream& output) {
+void PrintTable(const ProcessorInfo& info, const OutputStyle& style, std::ostream& output) {
     TextTable table(
-        {"SOCKET", "NAME", "CORES", "THREADS", "SPEED", "MAXIMUM", "L1", "L2", "L3", "VOLTAGE", "STATUS"});
+        {"SOCKET", "NAME", "CORES", "THREADS", "SPEED", "MAXIMUM", "L1", "L2", "L3", "VOLTAGE", "STATUS"},
+        "no processors");
     for (std::size_t i = 0; i < info.GetCPUCount(); ++i) {
         table.Add({TextOrNothing(info.GetSocketDesignation(i)),
                    TextOrNothing(info.GetVersion(i)),
@@ -112,18 +120,34 @@ void PrintTable(const ProcessorInfo& info, std::ostream& output) {
                    VoltageText(info, i),
                    TextOrNothing(info.GetStringifiedStatus(i))});
     }
-    table.Print(output);
+    table.Print(style, output);
+}
+
+std::size_t ProcessorsInTable() {
+    return SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::ProcessorInformation).size();
+}
+
+void PrintText(const ProcessorInfo& info, const OutputStyle& style, std::ostream& output) {
+    const std::size_t listed = info.GetCPUCount();
+    const std::size_t total = ProcessorsInTable();
+    if (listed != 0 || total == 0) {
+        PrintTable(info, style, output);
+    }
+    PrintUnlistedNote(
+        {.listed = listed, .total = total, .noun = "processor", .identifier = "a processor id", .type = 4},
+        style,
+        output);
 }
 
 }  // namespace
 
-void ReportProcessors(const Options& options, std::ostream& output) {
+void ReportProcessors(const Options& options, const OutputStyle& style, std::ostream& output) {
     ProcessorInfo info;
     info.RetrieveInfo();
     if (options.json) {
         PrintJson(RowsToJson("processors", info, info.GetCPUCount(), kValues), output);
     } else {
-        PrintTable(info, output);
+        PrintText(info, style, output);
     }
 }
 

@@ -3,10 +3,11 @@
 #include <iosfwd>
 
 #include "smbios-inspect/options.h"
+#include "smbios-inspect/output_style.h"
 
 namespace SMBIOS::Inspect {
 
 /// Prints the processors as `ProcessorInfo` gives them. Throws what its RetrieveInfo throws.
-void ReportProcessors(const Options& options, std::ostream& output);
+void ReportProcessors(const Options& options, const OutputStyle& style, std::ostream& output);
 
 }  // namespace SMBIOS::Inspect

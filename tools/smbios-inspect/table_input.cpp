@@ -1,9 +1,13 @@
 #include "smbios-inspect/table_input.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdio>
 #include <stdexcept>
+#include <vector>
 
 #include "platform/saved_table.h"
+#include "smbios-inspect/file_path.h"
 
 namespace SMBIOS::Inspect {
 
@@ -19,6 +23,27 @@ void RequireMachineTable() {
         case Platform::FirmwareTableAccess::missing:
             throw std::runtime_error("this machine exposes no SMBIOS table");
     }
+}
+
+/// Anything can pass for a raw table, whose header has no mark: a table alone, without its header, too.
+void RequirePlausibleVersion(const std::vector<std::uint8_t>& table, const std::filesystem::path& name) {
+    constexpr std::size_t kMajorOffset = 1;
+    constexpr std::uint8_t kLargestMajor = 9;
+    const std::uint8_t major = table[kMajorOffset];
+    if (major == 0 || major > kLargestMajor) {
+        throw Platform::SavedTableError::NotATable(name,
+                                                   "its header gives the version " + std::to_string(major) +
+                                                       "." + std::to_string(table[kMajorOffset + 1]));
+    }
+}
+
+std::vector<std::uint8_t> LoadTable(const std::string& from) {
+    const bool isStandardInput = from == "-";
+    const std::filesystem::path name = isStandardInput ? "standard input" : FilePath(from);
+    std::vector<std::uint8_t> table =
+        isStandardInput ? Platform::LoadSavedTable(stdin, name) : Platform::LoadSavedTable(name);
+    RequirePlausibleVersion(table, name);
+    return table;
 }
 
 }  // namespace
@@ -40,7 +65,7 @@ TableInput::TableInput(const std::optional<std::string>& from) {
         RequireMachineTable();
         return;
     }
-    saved_.emplace(Platform::LoadSavedTable(*from));
+    saved_.emplace(LoadTable(*from));
     Platform::UseFirmwareTable(&*saved_);
     Platform::UseCommandRunner(&noCommands_);
 }

@@ -16,7 +16,8 @@ public:
     /// The machine's table, unchecked.
     TableInput() = default;
 
-    /// The saved table at `from`, or the machine's when there is none. Throws an exception whose text is for
+    /// The saved table at `from`, "-" for standard input, or the machine's when there is none. Throws an
+    /// exception whose text is for
     /// a person when it cannot be read.
     explicit TableInput(const std::optional<std::string>& from);
 

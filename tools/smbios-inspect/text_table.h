@@ -1,10 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <iosfwd>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "smbios-inspect/output_style.h"
 
 namespace SMBIOS::Inspect {
 
@@ -14,18 +17,44 @@ namespace SMBIOS::Inspect {
 /// Number of terminal columns that printable UTF-8 takes, one for each character.
 [[nodiscard]] std::size_t DisplayWidth(std::string_view text) noexcept;
 
+/// Printable text cut between words into lines of at most `width` columns, 0 for no limit. A longer word has
+/// a line of its own. There is at least one line, and none ends with a blank.
+[[nodiscard]] std::vector<std::string> WrapWords(std::string_view text, std::size_t width);
+
+/// What colour sets off from the rest.
+enum class Emphasis : std::uint8_t { heading, warning };
+
+/// `text` in the emphasis's colour, if the style has colours.
+[[nodiscard]] std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style);
+
+/// Prints a sentence, which may come from the firmware, on as many lines as it takes.
+void PrintSentence(std::string_view text, const OutputStyle& style, std::ostream& output);
+
 /// An aligned table with a line of headings.
 class TextTable {
 public:
-    explicit TextTable(std::vector<std::string> headings);
+    /// `textWhenEmpty` is printed in place of a table without rows.
+    explicit TextTable(std::vector<std::string> headings, std::string textWhenEmpty = {});
 
     /// Adds a row; an empty cell is shown as "-". There are as many cells as headings.
     void Add(std::vector<std::string> cells);
 
-    void Print(std::ostream& output) const;
+    /// One line a row; where the terminal is too narrow for that, one block of lines a row.
+    void Print(const OutputStyle& style, std::ostream& output) const;
 
 private:
-    std::vector<std::vector<std::string>> lines_;
+    using Row = std::vector<std::string>;
+
+    [[nodiscard]] std::vector<std::size_t> ColumnWidths() const;
+    void PrintLine(const Row& row,
+                   const std::vector<std::size_t>& widths,
+                   const OutputStyle& style,
+                   std::ostream& output) const;
+    void PrintBlock(const Row& row, const OutputStyle& style, std::ostream& output) const;
+
+    Row headings_;
+    std::vector<Row> rows_;
+    std::string textWhenEmpty_;
 };
 
 }  // namespace SMBIOS::Inspect

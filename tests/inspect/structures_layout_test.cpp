@@ -1,0 +1,231 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <sstream>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "smbios-inspect/field_block.h"
+#include "smbios-inspect/structure_output.h"
+#include "structures/type_17.h"
+#include "structures/type_19.h"
+#include "structures/type_2.h"
+#include "structures/type_3.h"
+#include "structures/type_43.h"
+#include "structures/type_7.h"
+#include "structures/type_9.h"
+#include "structures/unknown_type.h"
+#include "tests/support/decode.h"
+
+// How one structure reads on a terminal.
+namespace SMBIOS::Tests {
+namespace {
+
+using Inspect::FieldText;
+using Inspect::Lines;
+using Inspect::OutputStyle;
+using Manager::Types::StructureTypes;
+
+std::string Block(const std::vector<FieldText>& fields, const OutputStyle& style) {
+    std::ostringstream output;
+    Inspect::PrintFieldBlock("Heading", fields, style, output);
+    return output.str();
+}
+
+template <class Type>
+std::string TextOf(const StructureBuilder& structure, Manager::SmbiosVersionIndex version = v3_8_0) {
+    Manager::currentVersionIndex = version;
+    const auto decoder = std::make_shared<Type>();
+    decoder->Process(structure.FormattedBytes(), structure.Strings());
+    const auto key = std::is_same_v<Type, Structures::UnknownType>
+                         ? StructureTypes::Unknown
+                         : static_cast<StructureTypes>(structure.FormattedBytes()[0]);
+    std::ostringstream output;
+    Inspect::PrintStructure({key, decoder}, {}, output);
+    return output.str();
+}
+
+/// What stands behind `label` in its line; "(none)" without such a line.
+std::string Shown(const std::string& text, const std::string& label) {
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("  " + label + "  ")) {
+            return line.substr(line.find_first_not_of(' ', label.size() + 2));
+        }
+    }
+    return "(none)";
+}
+
+// Lines
+
+TEST(StructuresLayout, TextThatFitsStaysOneLine) {
+    EXPECT_EQ(Inspect::Wrapped("as it is", 8), (Lines{"as it is"}));
+}
+
+TEST(StructuresLayout, TextBreaksAtTheLastBlankThatFits) {
+    EXPECT_EQ(Inspect::Wrapped("one two three", 8), (Lines{"one two", "three"}));
+}
+
+TEST(StructuresLayout, AWordThatDoesNotFitIsCut) {
+    EXPECT_EQ(Inspect::Wrapped("abcdefgh", 3), (Lines{"abc", "def", "gh"}));
+}
+
+TEST(StructuresLayout, ACharacterOfSeveralBytesIsOneColumnAndNeverCut) {
+    EXPECT_EQ(Inspect::Wrapped("\u00E4\u00F6\u00FC\u00DF", 3), (Lines{"\u00E4\u00F6\u00FC", "\u00DF"}));
+}
+
+TEST(StructuresLayout, LabelsStandInOneColumn) {
+    EXPECT_EQ(Block({{"A", {"1"}, false}, {"Longer", {"2"}, false}}, {}),
+              "Heading\n"
+              "  A       1\n"
+              "  Longer  2\n");
+}
+
+TEST(StructuresLayout, LinesBehindTheFirstOneHaveNoLabel) {
+    EXPECT_EQ(Block({{"Label", {"1", "2"}, false}}, {}),
+              "Heading\n"
+              "  Label  1\n"
+              "         2\n");
+}
+
+TEST(StructuresLayout, LongTextContinuesBelowItselfWithinTheTerminal) {
+    EXPECT_EQ(Block({{"Label", {"some words that go on and on"}, false}}, {.width = 30}),
+              "Heading\n"
+              "  Label  some words that go on\n"
+              "         and on\n");
+}
+
+TEST(StructuresLayout, WithoutATerminalNoLineIsBroken) {
+    const std::string words(500, 'x');
+    EXPECT_EQ(Block({{"Label", {words}, false}}, {}), "Heading\n  Label  " + words + "\n");
+}
+
+TEST(StructuresLayout, ColourMakesTheHeadingBoldAndTheErrorRed) {
+    EXPECT_EQ(Block({{"A", {"1"}, false}, {"E", {"bad"}, true}}, {.colour = true}),
+              "\x1B[1mHeading\x1B[0m\n"
+              "  A  1\n"
+              "  E  \x1B[31mbad\x1B[0m\n");
+}
+
+TEST(StructuresLayout, ControlCharactersOfTheFirmwareDoNotReachTheTerminal) {
+    EXPECT_EQ(Block({{"A", {"a\x1B[2Jb\nc"}, false}}, {}), "Heading\n  A  a\uFFFD[2Jb\uFFFDc\n");
+}
+
+// Words
+
+TEST(StructuresLayout, ACodeStandsBehindItsText) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Byte(0x12, 0x1A));
+    EXPECT_EQ(Shown(text, "Memory type"), "DDR4 (26)");
+}
+
+TEST(StructuresLayout, ACodeWithoutATextStandsAlone) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Byte(0x12, 0xF0));
+    EXPECT_EQ(Shown(text, "Memory type"), "240");
+}
+
+TEST(StructuresLayout, SetFlagsReadAsTheirNamesAndOthersAsTheirBits) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Word(0x13, 0x2081));
+    EXPECT_EQ(Shown(text, "Type detail"), "bit 0, Synchronous, Registered (Buffered)");
+}
+
+TEST(StructuresLayout, NoFlagReadsAsNone) {
+    EXPECT_EQ(Shown(TextOf<Structures::Type_17>({17, 0x5C}), "Type detail"), "none");
+}
+
+TEST(StructuresLayout, HandlesReadInHexadecimal) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Word(0x04, 0x00AB));
+    EXPECT_EQ(Shown(text, "Memory array"), "0x00AB");
+}
+
+TEST(StructuresLayout, NumbersHaveTheirUnits) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Word(0x15, 2400));
+    EXPECT_EQ(Shown(text, "Speed"), "2400 MT/s");
+}
+
+TEST(StructuresLayout, AbsentFieldsAreLeftOut) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Word(0x08, 0xFFFF));
+    EXPECT_EQ(Shown(text, "Total width"), "(none)");
+    EXPECT_EQ(Shown(text, "Serial number"), "(none)");
+}
+
+TEST(StructuresLayout, TheSizeOfADeviceThatCountsMegabytes) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Word(0x0C, 0x4000));
+    EXPECT_EQ(Shown(text, "Size"), "16 GiB");
+}
+
+TEST(StructuresLayout, TheSizeOfADeviceThatCountsKilobytes) {
+    const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Word(0x0C, 0x8200));
+    EXPECT_EQ(Shown(text, "Size"), "512 KiB");
+}
+
+TEST(StructuresLayout, AnAddressInKilobytes) {
+    const std::string text = TextOf<Structures::Type_19>(StructureBuilder(19, 0x1F).Dword(0x08, 0x03FFFFFF));
+    EXPECT_EQ(Shown(text, "Ending address"), "0x3FFFFFF KiB");
+}
+
+TEST(StructuresLayout, AnAddressInBytes) {
+    const std::string text = TextOf<Structures::Type_19>(
+        StructureBuilder(19, 0x1F).Dword(0x08, 0xFFFFFFFF).Qword(0x17, 0x123456789A));
+    EXPECT_EQ(Shown(text, "Ending address"), "0x123456789A");
+}
+
+TEST(StructuresLayout, CacheLevelsCountFromOne) {
+    const std::string text = TextOf<Structures::Type_7>(StructureBuilder(7, 0x1B).Word(0x05, 0x0022));
+    EXPECT_EQ(Shown(text, "Level"), "L3");
+    EXPECT_EQ(Shown(text, "Location"), "External (1)");
+}
+
+TEST(StructuresLayout, TheFeaturesOfABoardReadInOneLine) {
+    const std::string text = TextOf<Structures::Type_2>(StructureBuilder(2, 0x0F).Byte(0x09, 0x13));
+    EXPECT_EQ(Shown(text, "Features"),
+              "hot swappable, removable, replaceable, hosting board, requires a daughter board, raw 0x13");
+}
+
+TEST(StructuresLayout, ObjectsOnABoardReadAsHandles) {
+    const std::string text = TextOf<Structures::Type_2>(
+        StructureBuilder(2, 0x25).Byte(0x0E, 9).Word(0x0F, 0x0010).Word(0x11, 0x0011));
+    EXPECT_EQ(Shown(text, "Contained objects"), "0x0010, 0x0011");
+}
+
+TEST(StructuresLayout, AContainedElementReadsInOneLine) {
+    const std::string text = TextOf<Structures::Type_3>(
+        StructureBuilder(3, 0x18).Byte(0x13, 1).Byte(0x14, 3).Bytes(0x15, {0x80 | 10, 1, 2}));
+    EXPECT_EQ(Shown(text, "Contained elements"), "Motherboard (10), Structure, minimum 1, maximum 2");
+}
+
+TEST(StructuresLayout, APeerGroupReadsInOneLine) {
+    const std::string text = TextOf<Structures::Type_9>(
+        StructureBuilder(9, 0x18).Byte(0x12, 1).Bytes(0x13, {0x02, 0x01, 0x03, 0x25, 0x08}));
+    EXPECT_EQ(Shown(text, "Peer groups"), "segment group 258, bus 3, device 4, function 5, data bus width 8");
+}
+
+TEST(StructuresLayout, NulsBehindAVendorIdAreNotShown) {
+    const std::string text =
+        TextOf<Structures::Type_43>(StructureBuilder(43, 0x1F).Bytes(0x04, {'V', 'N', 'T', 0}));
+    EXPECT_EQ(Shown(text, "Vendor id"), "VNT");
+}
+
+TEST(StructuresLayout, TypesOfMakersSayThatTheyAre) {
+    EXPECT_EQ(TextOf<Structures::UnknownType>({0xDD, 4, 0x0001}),
+              "Type 221: OEM-specific, handle 0x0001, 4 bytes\n"
+              "  Raw bytes  dd 04 01 00\n");
+}
+
+TEST(StructuresLayout, ATypeWithoutANameHasNone) {
+    EXPECT_TRUE(TextOf<Structures::UnknownType>({100, 4, 0x0001}).starts_with("Type 100, handle 0x0001"));
+}
+
+TEST(StructuresLayout, StringsReadWithTheirNumbersAndEmptyOnesWithoutABlank) {
+    const std::string text =
+        TextOf<Structures::UnknownType>(StructureBuilder(100, 4, 1).String("one").String("").String("three"));
+    EXPECT_EQ(text,
+              "Type 100, handle 0x0001, 4 bytes\n"
+              "  Strings    1: one\n"
+              "             2:\n"
+              "             3: three\n"
+              "  Raw bytes  64 04 01 00\n");
+}
+
+}  // namespace
+}  // namespace SMBIOS::Tests

@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "tests/inspect/run_tool.h"
+#include "tests/support/temporary_folder.h"
+
+namespace SMBIOS::Tests {
+namespace {
+
+/// The tool as a process, with a shell around it to say where it reads and prints.
+class ToolProcess : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!std::filesystem::exists("/bin/bash")) {
+            GTEST_SKIP() << "no bash on this machine";
+        }
+    }
+
+    /// Runs `script`, in which $tool is the tool and $table the sample, and returns what it prints on both
+    /// streams.
+    [[nodiscard]] std::string Run(const std::string& script) const {
+        const std::filesystem::path file =
+            folder_.Write("script", "cd " + folder_.Path().string() + "\n" + script);
+        const std::filesystem::path output = folder_.Path() / "output";
+        const std::string command = "tool='" SMBIOS_INSPECT "' table='" SMBIOS_SAMPLE_TABLE "' /bin/bash " +
+                                    file.string() + " >" + output.string() + " 2>&1";
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        return ContentsOf(output);
+    }
+
+    TemporaryFolder folder_;
+};
+
+TEST_F(ToolProcess, ReadsStandardInput) {
+    EXPECT_EQ(Run("\"$tool\" --from - <\"$table\"; echo $?"), GoldenText("summary.txt") + "0\n");
+}
+
+TEST_F(ToolProcess, ReadsAPipe) {
+    EXPECT_EQ(Run("cat \"$table\" | \"$tool\" memory --from -"), GoldenText("memory.txt"));
+}
+
+TEST_F(ToolProcess, TellsWhyStandardInputCannotBeRead) {
+    EXPECT_EQ(Run("\"$tool\" --from - <&-; echo $?"),
+              "smbios-inspect: cannot open standard input: Bad file descriptor\n1\n");
+}
+
+TEST_F(ToolProcess, EndsQuietlyWhenItsReaderGoesAway) {
+    EXPECT_EQ(Run("{ sleep 0.2; \"$tool\" processors --json --from \"$table\"; } | true"), "");
+}
+
+TEST_F(ToolProcess, SucceedsQuietlyWhenThePipeIsBrokenAndThatIsIgnored) {
+    EXPECT_EQ(Run("trap '' PIPE\n"
+                  "{ sleep 0.2; \"$tool\" memory --json --from \"$table\"; echo $? >&2; } | true"),
+              "0\n");
+}
+
+TEST_F(ToolProcess, FailsWithOneLineWhenTheOutputCannotBeWritten) {
+    if (!std::filesystem::exists("/dev/full")) {
+        GTEST_SKIP() << "no /dev/full on this system";
+    }
+    EXPECT_EQ(Run("\"$tool\" --from \"$table\" >/dev/full; echo $?"),
+              "smbios-inspect: cannot write to standard output: No space left on device\n1\n");
+}
+
+TEST_F(ToolProcess, LeavesNothingHalfWrittenBehind) {
+    EXPECT_EQ(Run("mkdir saved\n"
+                  "(trap '' XFSZ; ulimit -f 1; \"$tool\" save saved/table --from \"$table\" 2>&1 | cat)\n"
+                  "ls -A saved"),
+              "smbios-inspect: cannot write saved/table: File too large\n");
+}
+
+TEST_F(ToolProcess, HasNoColoursAndNoLimitInAFile) {
+    EXPECT_EQ(Run("\"$tool\" processors --from \"$table\""), GoldenText("processors.txt"));
+}
+
+}  // namespace
+}  // namespace SMBIOS::Tests

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <string_view>
+#include <vector>
+
+#include "smbios-inspect/field.h"
+#include "smbios-inspect/output_style.h"
+#include "smbios-inspect/record_text.h"
+
+namespace SMBIOS::Inspect {
+
+/// `text`, printable UTF-8, in lines of at most `width` columns, broken at blanks where there are any.
+[[nodiscard]] Lines Wrapped(std::string_view text, std::size_t width);
+
+/// Prints a heading and below it the fields: labels in one column, their lines in another, every text made
+/// safe for a terminal.
+void PrintFieldBlock(std::string_view heading,
+                     const std::vector<FieldText>& fields,
+                     const OutputStyle& style,
+                     std::ostream& output);
+
+}  // namespace SMBIOS::Inspect
