@@ -7,8 +7,8 @@
 
 namespace SMBIOS::Structures {
 
-/// "0x" and the value in upper-case hexadecimal. Kept for compatibility with callers: the least number of digits
-/// is the size of the value in bytes, not twice that.
+/// "0x" and the value in upper-case hexadecimal. Kept for compatibility with callers: the least number of
+/// digits is the size of the value in bytes, not twice that.
 template <class Value>
 [[nodiscard]] std::string HexText(Value value) {
     static_assert(std::is_unsigned_v<Value>);

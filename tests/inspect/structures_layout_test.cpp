@@ -23,7 +23,6 @@ namespace SMBIOS::Tests {
 namespace {
 
 using Inspect::FieldText;
-using Inspect::Lines;
 using Inspect::OutputStyle;
 using Manager::Types::StructureTypes;
 
@@ -58,22 +57,6 @@ std::string Shown(const std::string& text, const std::string& label) {
 }
 
 // Lines
-
-TEST(StructuresLayout, TextThatFitsStaysOneLine) {
-    EXPECT_EQ(Inspect::Wrapped("as it is", 8), (Lines{"as it is"}));
-}
-
-TEST(StructuresLayout, TextBreaksAtTheLastBlankThatFits) {
-    EXPECT_EQ(Inspect::Wrapped("one two three", 8), (Lines{"one two", "three"}));
-}
-
-TEST(StructuresLayout, AWordThatDoesNotFitIsCut) {
-    EXPECT_EQ(Inspect::Wrapped("abcdefgh", 3), (Lines{"abc", "def", "gh"}));
-}
-
-TEST(StructuresLayout, ACharacterOfSeveralBytesIsOneColumnAndNeverCut) {
-    EXPECT_EQ(Inspect::Wrapped("\u00E4\u00F6\u00FC\u00DF", 3), (Lines{"\u00E4\u00F6\u00FC", "\u00DF"}));
-}
 
 TEST(StructuresLayout, LabelsStandInOneColumn) {
     EXPECT_EQ(Block({{"A", {"1"}, false}, {"Longer", {"2"}, false}}, {}),

@@ -11,9 +11,6 @@
 
 namespace SMBIOS::Inspect {
 
-/// `text`, printable UTF-8, in lines of at most `width` columns, broken at blanks where there are any.
-[[nodiscard]] Lines Wrapped(std::string_view text, std::size_t width);
-
 /// Prints a heading and below it the fields: labels in one column, their lines in another, every text made
 /// safe for a terminal.
 void PrintFieldBlock(std::string_view heading,

@@ -10,7 +10,7 @@
 #include "smbios-inspect/structures_report.h"
 #include "smbios-inspect/summary_report.h"
 #include "smbios-inspect/table_input.h"
-#include "smbios-inspect/text_table.h"
+#include "smbios-inspect/text_layout.h"
 
 namespace SMBIOS::Inspect {
 

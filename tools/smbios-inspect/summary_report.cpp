@@ -13,7 +13,7 @@
 #include "parsers/decoded_records.h"
 #include "smbios-inspect/memory_size.h"
 #include "smbios-inspect/structure_count.h"
-#include "smbios-inspect/text_table.h"
+#include "smbios-inspect/text_layout.h"
 #include "smbios-inspect/units.h"
 #include "structures/string_lookup.h"
 #include "structures/type_0.h"

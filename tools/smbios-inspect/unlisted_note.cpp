@@ -3,7 +3,7 @@
 #include <ostream>
 
 #include "common/format.h"
-#include "smbios-inspect/text_table.h"
+#include "smbios-inspect/text_layout.h"
 
 namespace SMBIOS::Inspect {
 
