@@ -198,7 +198,7 @@ TEST(StructuresOfRandomTables, WellFormedStructuresWithWildStringsGiveValidJsonA
     }
 }
 
-TEST(StructuresOfRandomTables, NoLineIsWiderThanTheTerminal) {
+TEST(StructuresOfRandomTables, NoLineOfShortWordsIsWiderThanTheTerminal) {
     constexpr std::size_t kWidth = 80;
     Random random(3);
     for (int i = 0; i < kTables; ++i) {
