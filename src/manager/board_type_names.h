@@ -5,7 +5,7 @@
 namespace SMBIOS::Manager {
 
 /// Names of the baseboard's board types; the standard's 1 (Unknown) and 2 (Other) have none.
-inline constexpr auto BoardTypeNames = Common::ByteTable({
+inline constexpr auto kBoardTypeNames = Common::ByteTable({
     {3, "Server Blade"},
     {4, "Connectivity Switch"},
     {5, "System Management Module"},

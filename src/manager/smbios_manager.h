@@ -1,17 +1,17 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "manager/decoded_table.h"
 #include "manager/structure_types.h"
 #include "structures/base_structure.h"
 
 namespace SMBIOS::Manager {
 
-/// The one process-wide holder of the decoded table. Any thread may call any operation.
+/// The one process-wide holder of the decoded table of this machine. Any thread may call any operation.
 class SmbiosManager {
 public:
     SmbiosManager(const SmbiosManager&) = delete;
@@ -35,13 +35,10 @@ public:
 private:
     SmbiosManager() = default;
 
-    void DetectVersion(const std::vector<std::uint8_t>& rawTable);
-    void FileStructures();
-
-    bool loaded = false;
-    std::string version;
-    std::vector<std::uint8_t> tableData;
-    std::multimap<Types::StructureTypes, std::shared_ptr<Structures::BaseStructure>> structures;
+    bool loaded_ = false;
+    std::string version_;
+    std::vector<std::uint8_t> tableData_;
+    FiledStructures structures_;
 };
 
 }  // namespace SMBIOS::Manager

@@ -7,16 +7,12 @@
 namespace SMBIOS::Manager {
 
 /// The SMBIOS versions the library tells apart, in ascending order. Indices 4 to 7 are reserved: no version
-/// of a table has them.
+/// has them.
 enum class SmbiosVersionIndex : std::uint8_t {
     v2_0_0 = 0,
     v2_1_0 = 1,
     v2_2_0 = 2,
     v2_3_0 = 3,
-    reserved4 = 4,
-    reserved5 = 5,
-    reserved6 = 6,
-    reserved7 = 7,
     v2_4_0 = 8,
     v2_5_0 = 9,
     v2_6_0 = 10,
@@ -37,13 +33,8 @@ enum class SmbiosVersionIndex : std::uint8_t {
     v3_8_0 = 25,
 };
 
-/// Version of the table being decoded. Written only by a load, before its walk begins; every decoder's
-/// version checks compare against it.
+/// Version of the process's own table. Written only by its load, before the walk begins.
 inline constinit SmbiosVersionIndex currentVersionIndex = SmbiosVersionIndex::v2_0_0;
-
-[[nodiscard]] inline bool CurrentVersionIsAtLeast(SmbiosVersionIndex version) noexcept {
-    return currentVersionIndex >= version;
-}
 
 /// One row of the version map.
 struct VersionRow {

@@ -5,7 +5,7 @@
 namespace SMBIOS::Manager {
 
 /// Names of the structure types; 126 (inactive) and 127 (end of table) have none.
-inline constexpr auto StructureTypeNames = Common::ByteTable({
+inline constexpr auto kStructureTypeNames = Common::ByteTable({
     {0, "BIOS Information"},
     {1, "System Information"},
     {2, "Baseboard (or Module) Information"},

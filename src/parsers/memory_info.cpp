@@ -1,6 +1,7 @@
 #include "smbios/memory_info.h"
 
-#include "parsers/decoded_records.h"
+#include "manager/decoded_records.h"
+#include "manager/smbios_manager.h"
 #include "parsers/row_values.h"
 #include "parsers/wmi_completion.h"
 #include "structures/type_17.h"
@@ -8,30 +9,28 @@
 namespace SMBIOS::Parsers {
 
 using Manager::SmbiosManager;
-using Manager::Types::StructureTypes;
 using Structures::Type_17;
 using Structures::Type17::Types::Type17Struct;
 
 namespace {
 
 constexpr WmiProperty<Type17Struct> kMemoryProperties[] = {
-    {"DataWidth", "DataWidth", &Type17Struct::dataWidth},
-    {"TotalWidth", "TotalWidth", &Type17Struct::totalWidth},
-    {"FormFactor", "FormFactor", &Type17Struct::formFactor},
-    {"DeviceLocator", "DeviceLocator", &Type17Struct::deviceLocator},
-    {"TypeDetail", "TypeDetail", &Type17Struct::typeDetail},
-    {"Speed", "Speed", &Type17Struct::speed},
-    {"Manufacturer", "Manufacturer", &Type17Struct::manufacturer},
-    {"SerialNumber", "SerialNumber", &Type17Struct::serialNumber},
-    {"Tag", "Tag", &Type17Struct::assetTag},
-    {"PartNumber", "PartNumber", &Type17Struct::partNumber},
-    {"Attributes", "Attributes", &Type17Struct::rank},
-    {"BankLabel",
-     "BankLocator",
-     &Type17Struct::bankLocator},  // never stored: callers rely on the firmware's own
-    {"PositionInRow", "PositionInRow", &Type17Struct::positionInRow},
-    {"Capacity", "Capacity", &Type17Struct::size},
-    {"SMBIOSMemoryType", "SMBIOSMemoryType", &Type17Struct::memoryType},
+    {"DataWidth", &Type17Struct::dataWidth},
+    {"TotalWidth", &Type17Struct::totalWidth},
+    {"FormFactor", &Type17Struct::formFactor},
+    {"DeviceLocator", &Type17Struct::deviceLocator},
+    {"TypeDetail", &Type17Struct::typeDetail},
+    {"Speed", &Type17Struct::speed},
+    {"Manufacturer", &Type17Struct::manufacturer},
+    {"SerialNumber", &Type17Struct::serialNumber},
+    {"Tag", &Type17Struct::assetTag},
+    {"PartNumber", &Type17Struct::partNumber},
+    {"Attributes", &Type17Struct::rank},
+    // The bank locator stays the firmware's own: callers rely on it.
+    {"BankLabel", &Type17Struct::bankLocator, Completion::askedNotStored},
+    {"PositionInRow", &Type17Struct::positionInRow},
+    {"Capacity", &Type17Struct::size},
+    {"SMBIOSMemoryType", &Type17Struct::memoryType},
 };
 
 constexpr WmiSource<Type17Struct> kPhysicalMemory = {
@@ -57,7 +56,7 @@ void MemoryInfo::RetrieveInfo() {
     SmbiosManager& manager = *SmbiosManager::GetInstance();
     manager.UpdateBiosInfo();
     state_->devices.ClearRows();
-    state_->devices.Rebuild(DecodedRecords<Type_17>(manager, StructureTypes::MemoryDevice));
+    state_->devices.Rebuild(Manager::DecodedRecords<Type_17>(manager));
 }
 
 std::size_t MemoryInfo::GetMemoryDeviceCount() const noexcept {

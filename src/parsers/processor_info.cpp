@@ -1,8 +1,9 @@
 #include "smbios/processor_info.h"
 
-#include <algorithm>
+#include <unordered_map>
 
-#include "parsers/decoded_records.h"
+#include "manager/decoded_records.h"
+#include "manager/smbios_manager.h"
 #include "parsers/row_values.h"
 #include "parsers/wmi_completion.h"
 #include "structures/type_4.h"
@@ -11,7 +12,6 @@
 namespace SMBIOS::Parsers {
 
 using Manager::SmbiosManager;
-using Manager::Types::StructureTypes;
 using Structures::Type_4;
 using Structures::Type_7;
 using Structures::Type4::Types::Type4Struct;
@@ -20,23 +20,21 @@ using Structures::Type7::Types::Type7Struct;
 namespace {
 
 constexpr WmiProperty<Type4Struct> kProcessorProperties[] = {
-    {"DeviceID", "DeviceID", &Type4Struct::deviceId},
-    {"Name", "Name", &Type4Struct::processorVersion},
-    {"Caption", "Caption", &Type4Struct::caption},
-    {"ProcessorId", "ProcessorId", &Type4Struct::processorId},
-    {"L2CacheSize", "L2CacheSize", &Type4Struct::l2CacheSize},
-    {"L3CacheSize", "L3CacheSize", &Type4Struct::l3CacheSize},
-    {"NumberOfLogicalProcessors", "NumberOfLogicalProcessors", &Type4Struct::threadCount},
-    {"NumberOfEnabledCore", "NumberOfEnabledCore", &Type4Struct::coreEnabled},
-    {"NumberOfCores", "NumberOfCores", &Type4Struct::coreCount},
-    {"MaxClockSpeed", "MaxClockSpeed", &Type4Struct::maxSpeed},
-    {"Description", "Description", &Type4Struct::description},
-    {"AddressWidth", "AddressWidth", &Type4Struct::addressWidth},
-    {"DataWidth", "DataWidth", &Type4Struct::dataWidth},
-    {"VirtualizationFirmwareEnabled",
-     "VirtualizationFirmwareEnabled",
-     &Type4Struct::virtualizationFirmwareEnabled},
-    {"Manufacturer", "Manufacturer", &Type4Struct::processorManufacturer, Asked::always},
+    {"DeviceID", &Type4Struct::deviceId},
+    {"Name", &Type4Struct::processorVersion},
+    {"Caption", &Type4Struct::caption},
+    {"ProcessorId", &Type4Struct::processorId},
+    {"L2CacheSize", &Type4Struct::l2CacheSize},
+    {"L3CacheSize", &Type4Struct::l3CacheSize},
+    {"NumberOfLogicalProcessors", &Type4Struct::threadCount},
+    {"NumberOfEnabledCore", &Type4Struct::coreEnabled},
+    {"NumberOfCores", &Type4Struct::coreCount},
+    {"MaxClockSpeed", &Type4Struct::maxSpeed},
+    {"Description", &Type4Struct::description},
+    {"AddressWidth", &Type4Struct::addressWidth},
+    {"DataWidth", &Type4Struct::dataWidth},
+    {"VirtualizationFirmwareEnabled", &Type4Struct::virtualizationFirmwareEnabled},
+    {"Manufacturer", &Type4Struct::processorManufacturer, Completion::always},
 };
 
 constexpr WmiSource<Type4Struct> kProcessor = {
@@ -46,19 +44,30 @@ constexpr WmiSource<Type4Struct> kProcessor = {
     .properties = kProcessorProperties,
 };
 
-using Caches = std::vector<std::shared_ptr<Type7Struct>>;
+/// The caches of a table by their handles.
+class Caches {
+public:
+    explicit Caches(const std::vector<std::shared_ptr<Type7Struct>>& caches) {
+        for (const std::shared_ptr<Type7Struct>& cache : caches) {
+            sizes_.try_emplace(cache->handle,
+                               cache->maximumCacheSize);  // of one handle the first cache counts
+        }
+    }
 
-/// Maximum size of the cache with this handle; none when no cache has it.
-std::optional<std::uint64_t> SizeOfCache(std::optional<std::uint16_t> handle, const Caches& caches) {
-    const auto cache =
-        std::ranges::find(caches, handle, [](const auto& each) { return std::optional(each->handle); });
-    return cache == caches.end() ? std::nullopt : (*cache)->maximumCacheSize;
-}
+    /// Maximum size of the cache with this handle; none when no cache has it.
+    [[nodiscard]] std::optional<std::uint64_t> SizeOf(std::optional<std::uint16_t> handle) const {
+        const auto cache = handle ? sizes_.find(*handle) : sizes_.end();
+        return cache == sizes_.end() ? std::nullopt : cache->second;
+    }
+
+private:
+    std::unordered_map<std::uint16_t, std::optional<std::uint64_t>> sizes_;
+};
 
 void LinkCaches(Type4Struct& processor, const Caches& caches) {
-    processor.l1CacheSize = SizeOfCache(processor.l1CacheHandle, caches);
-    processor.l2CacheSize = SizeOfCache(processor.l2CacheHandle, caches);
-    processor.l3CacheSize = SizeOfCache(processor.l3CacheHandle, caches);
+    processor.l1CacheSize = caches.SizeOf(processor.l1CacheHandle);
+    processor.l2CacheSize = caches.SizeOf(processor.l2CacheHandle);
+    processor.l3CacheSize = caches.SizeOf(processor.l3CacheHandle);
 }
 
 }  // namespace
@@ -77,12 +86,9 @@ void ProcessorInfo::RetrieveInfo() {
     SmbiosManager& manager = *SmbiosManager::GetInstance();
     manager.UpdateBiosInfo();
     state_->processors.ClearRows();
-    const Caches caches = DecodedRecords<Type_7>(manager, StructureTypes::CacheInformation);
-    const auto processors = DecodedRecords<Type_4>(manager, StructureTypes::ProcessorInformation);
-    for (const std::shared_ptr<Type4Struct>& processor : processors) {
-        LinkCaches(*processor, caches);
-    }
-    state_->processors.Rebuild(processors);
+    const Caches caches(Manager::DecodedRecords<Type_7>(manager));
+    state_->processors.Rebuild(Manager::DecodedRecords<Type_4>(manager),
+                               [&](Type4Struct& processor) { LinkCaches(processor, caches); });
 }
 
 std::size_t ProcessorInfo::GetCPUCount() const noexcept {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <span>
@@ -12,18 +13,19 @@
 #include <variant>
 #include <vector>
 
+#include "parsers/record_lock.h"
 #include "wmi/wmi_query.h"
 
 namespace SMBIOS::Parsers {
 
-/// When a property is asked of WMI.
-enum class Asked : std::uint8_t {
-    whenMissing,  ///< when the record lacks the value; whatever comes back is stored
-    always,       ///< always; only a text that is not empty is stored
+/// When a property is asked of WMI, and what of the answer is stored.
+enum class Completion : std::uint8_t {
+    whenMissing,     ///< asked when the record lacks the value; whatever comes back is stored
+    always,          ///< always asked; only a text that is not empty is stored
+    askedNotStored,  ///< asked when the record lacks the value, and never stored
 };
 
-/// One value that WMI may complete: the property asked for, the member of the answer that is stored, and the
-/// field of the record.
+/// One value that WMI may complete: the property and the field of the record.
 template <class Record>
 struct WmiProperty {
     using Field = std::variant<std::string Record::*,
@@ -33,13 +35,12 @@ struct WmiProperty {
                                std::optional<std::uint32_t> Record::*,
                                std::optional<std::uint64_t> Record::*>;
 
-    const char* requested;
-    const char* stored;
+    const char* name;
     Field field;
-    Asked asked = Asked::whenMissing;
+    Completion completion = Completion::whenMissing;
 
     [[nodiscard]] bool IsMissing(const Record& record) const {
-        if (asked == Asked::always) {
+        if (completion == Completion::always) {
             return true;
         }
         return std::visit(
@@ -55,7 +56,8 @@ struct WmiProperty {
 
     /// Stores `value` as the field's own type. Throws nlohmann::json's type error when it does not fit.
     void Store(Record& record, const nlohmann::json& value) const {
-        if (asked == Asked::always && (!value.is_string() || value.get_ref<const std::string&>().empty())) {
+        const bool isText = value.is_string() && !value.get_ref<const std::string&>().empty();
+        if (completion == Completion::askedNotStored || (completion == Completion::always && !isText)) {
             return;
         }
         std::visit(
@@ -80,8 +82,15 @@ struct WmiSource {
     std::span<const WmiProperty<Record>> properties;
 };
 
+/// The link of records that need none.
+struct NoLink {
+    template <class Record>
+    void operator()(Record&) const noexcept {}
+};
+
 /// The rows of an exported class: firmware records filed by their key and completed from WMI. Records are
-/// shared with the decoders, so completion writes into theirs; a row that only WMI knows is its own.
+/// shared with the decoders, so completion writes into theirs and serves every other object; one that only
+/// WMI knows is the object's own. The rows are copies: nothing that another object does changes them.
 template <class Record>
 class CompletedRecords {
 public:
@@ -93,28 +102,25 @@ public:
     [[nodiscard]] std::size_t Count() const noexcept { return rows_.size(); }
 
     /// Row `index`; nullptr when it is out of range.
-    [[nodiscard]] Record* Row(std::size_t index) const noexcept {
-        return index < rows_.size() ? rows_[index].get() : nullptr;
+    [[nodiscard]] Record* Row(std::size_t index) noexcept {
+        return index < rows_.size() ? &rows_[index] : nullptr;
     }
 
     void ClearRows() noexcept { rows_.clear(); }
 
-    /// Files the records, asks WMI once for what is missing, and makes the rows in ascending key order. What
-    /// was filed by earlier calls stays. Failures of the completion are swallowed: it is an extra.
-    void Rebuild(const Records& records) {
-        Request request;
-        for (const std::shared_ptr<Record>& record : records) {
-            FileRecord(record, request);
-        }
+    /// Links each record to what the table says of it elsewhere, files them, asks WMI once for what is
+    /// missing, and makes the rows in ascending key order. What was filed by earlier calls stays. Failures of
+    /// the completion are swallowed: it is an extra.
+    template <class Link = NoLink>
+    void Rebuild(const Records& records, Link link = {}) {
+        Request request = FileRecords(records, link);
         if (!request.properties.empty()) {
             try {
                 CompleteFromWmi(request);
             } catch (...) {  // NOLINT(bugprone-empty-catch): what was stored so far stays
             }
         }
-        for (const auto& [key, record] : recordsByKey_) {
-            rows_.push_back(record);
-        }
+        rows_ = CopyRows();
     }
 
 private:
@@ -123,6 +129,18 @@ private:
         Wmi::PropertySet properties;
         std::vector<std::string> keys;  ///< of the records to complete; empty for no filter
     };
+
+    /// Linked and filed under one lock: between the two, another object's link would undo a completion.
+    template <class Link>
+    [[nodiscard]] Request FileRecords(const Records& records, Link link) {
+        const std::unique_lock lock(recordLock);
+        Request request;
+        for (const std::shared_ptr<Record>& record : records) {
+            link(*record);
+            FileRecord(record, request);
+        }
+        return request;
+    }
 
     void FileRecord(const std::shared_ptr<Record>& record, Request& request) {
         const std::string& key = (*record).*source_.keyField;
@@ -136,7 +154,7 @@ private:
         bool anyMissing = false;
         for (const WmiProperty<Record>& property : source_.properties) {
             if (property.IsMissing(*record)) {
-                request.properties.emplace(property.requested);
+                request.properties.emplace(property.name);
                 anyMissing = true;
             }
         }
@@ -157,6 +175,8 @@ private:
         }
         nlohmann::json instancesByKey;
         query.FetchByKey(instancesByKey, source_.keyProperty, request.properties);
+
+        const std::unique_lock lock(recordLock);
         for (const auto& [key, instance] : instancesByKey.items()) {
             StoreMembers(RecordOf(key), instance, request.properties);
         }
@@ -171,20 +191,30 @@ private:
         return *recordsByKey_.emplace(key, std::make_shared<Record>()).first->second;
     }
 
+    [[nodiscard]] std::vector<Record> CopyRows() const {
+        const std::unique_lock lock(recordLock);
+        std::vector<Record> rows;
+        rows.reserve(recordsByKey_.size());
+        for (const auto& [key, record] : recordsByKey_) {
+            rows.push_back(*record);
+        }
+        return rows;
+    }
+
     void StoreMembers(Record& record,
                       const nlohmann::json& instance,
                       const Wmi::PropertySet& requested) const {
         for (const std::string& name : requested) {
-            const WmiProperty<Record>* const property = FindStored(name);
+            const WmiProperty<Record>* const property = FindProperty(name);
             if (property != nullptr && instance.contains(name)) {
                 property->Store(record, instance.at(name));
             }
         }
     }
 
-    [[nodiscard]] const WmiProperty<Record>* FindStored(const std::string& name) const {
+    [[nodiscard]] const WmiProperty<Record>* FindProperty(const std::string& name) const {
         for (const WmiProperty<Record>& property : source_.properties) {
-            if (name == property.stored) {
+            if (name == property.name) {
                 return &property;
             }
         }
@@ -194,14 +224,14 @@ private:
     [[nodiscard]] static Wmi::PropertySet AllProperties(const WmiSource<Record>& source) {
         Wmi::PropertySet names;
         for (const WmiProperty<Record>& property : source.properties) {
-            names.emplace(property.requested);
+            names.emplace(property.name);
         }
         return names;
     }
 
     const WmiSource<Record>& source_;
     const Wmi::PropertySet allProperties_;
-    Records rows_;
+    std::vector<Record> rows_;
     std::map<std::string, std::shared_ptr<Record>> recordsByKey_;
 };
 

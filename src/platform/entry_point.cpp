@@ -4,6 +4,8 @@
 #include <numeric>
 #include <string_view>
 
+#include "platform/raw_table_header.h"
+
 namespace SMBIOS::Platform {
 
 namespace {
@@ -101,12 +103,6 @@ std::optional<EntryPoint> Parse64(Bytes bytes) noexcept {
     return result;
 }
 
-void AppendDword(std::vector<std::uint8_t>& bytes, std::uint32_t value) {
-    for (unsigned shift = 0; shift < 32; shift += 8) {
-        bytes.push_back(static_cast<std::uint8_t>(value >> shift & 0xFFU));
-    }
-}
-
 }  // namespace
 
 bool StartsWithEntryPointAnchor(Bytes bytes) noexcept {
@@ -130,9 +126,10 @@ std::optional<std::vector<std::uint8_t>> AssembleRawTable(const EntryPoint& entr
         return std::nullopt;
     }
     std::vector<std::uint8_t> raw;
-    raw.reserve(kRawHeaderSize + table.size());
-    raw.assign({0, entryPoint.majorVersion, entryPoint.minorVersion, entryPoint.revision});
-    AppendDword(raw, static_cast<std::uint32_t>(table.size()));
+    raw.reserve(RawTableHeader::kSize + table.size());
+    const RawTableHeader header = {entryPoint.majorVersion, entryPoint.minorVersion, entryPoint.revision};
+    const auto headerBytes = header.Bytes(static_cast<std::uint32_t>(table.size()));
+    raw.assign(headerBytes.begin(), headerBytes.end());
     raw.insert(raw.end(), table.begin(), table.end());
     return raw;
 }

@@ -8,10 +8,6 @@
 
 namespace SMBIOS::Platform {
 
-/// Size of the header that precedes the structures in a raw table: calling method, major version, minor
-/// version, revision, and the length of the structures as a little-endian DWORD.
-inline constexpr std::size_t kRawHeaderSize = 8;
-
 /// What a verified entry point says of the table it points to.
 struct EntryPoint {
     std::size_t size = 0;  // of the entry point itself

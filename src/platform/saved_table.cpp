@@ -10,6 +10,7 @@
 #include "platform/dmi_tables.h"
 #include "platform/entry_point.h"
 #include "platform/file_bytes.h"
+#include "platform/raw_table_header.h"
 
 namespace SMBIOS::Platform {
 
@@ -62,7 +63,7 @@ std::vector<std::uint8_t> LoadFile(FileBytes contents, const std::filesystem::pa
     if (StartsWithEntryPointAnchor(contents.bytes)) {
         return FollowEntryPoint(file, contents.bytes);
     }
-    if (contents.bytes.size() <= kRawHeaderSize) {
+    if (contents.bytes.size() <= RawTableHeader::kSize) {
         throw SavedTableError::Truncated(file, "nothing follows its 8-byte header");
     }
     return std::move(contents.bytes);

@@ -5,7 +5,7 @@
 namespace SMBIOS::Structures {
 
 /// Texts of the internal and of the external connector of a port.
-inline constexpr auto ConnectorTypeNames = Common::ByteTable({
+inline constexpr auto kConnectorTypeNames = Common::ByteTable({
     {0x00, "None"},
     {0x01, "Centronics"},
     {0x02, "Mini Centronics"},
@@ -48,6 +48,6 @@ inline constexpr auto ConnectorTypeNames = Common::ByteTable({
     {0xA3, "PC-98Note"},
     {0xA4, "PC-98Full"},
 });
-static_assert(ConnectorTypeNames.Rows().size() == 41);
+static_assert(kConnectorTypeNames.Rows().size() == 41);
 
 }  // namespace SMBIOS::Structures

@@ -7,26 +7,36 @@
 #include <utility>
 #include <vector>
 
+#include "manager/smbios_version.h"
+#include "manager/structure_types.h"
 #include "structures/base_structure.h"
 #include "structures/parse_rules.h"
 #include "structures/structure_reader.h"
 
 namespace SMBIOS::Structures {
 
+using Manager::Types::StructureTypes;
+
 /// The frame that every decoder shares; it owns the order of things: fresh record, checks, gates, handle,
 /// fields, string set, raw bytes, with every failure caught into the record. A decoder `Type` derives from
 /// `Decoder<Type, Record>` and supplies only what is its own:
 ///
+///     static constexpr StructureTypes kKey;                             what it is filed under
 ///     static const ParseRules kRules;                                   what it accepts
 ///     static void DecodeFields(StructureReader& in, Record& record);    its fields in order
+///
+/// The order of the fields matters: what was decoded before a failure stays in the record.
 template <class Type, class Record>
 class Decoder : public BaseStructure {
 public:
+    /// A decoder for structures of a table of this version.
+    explicit Decoder(Manager::SmbiosVersionIndex version) noexcept : version_(version) {}
+
     void Process(const std::vector<std::uint8_t>& formattedBytes,
                  const std::vector<std::string>& strings) final {
         const bool decoded = Attempt([&] {
             this->Parse(formattedBytes);
-            StructureReader in(formattedBytes, strings);
+            StructureReader in(formattedBytes, strings, version_);
             Type::DecodeFields(in, *record_);
         });
         if (KeepsStrings(Type::kRules.strings, decoded, strings.empty())) {
@@ -39,12 +49,12 @@ public:
 
     void Parse(const std::vector<std::uint8_t>& formattedBytes) override {
         Record& record = MakeRecord();
-        CheckStructure(Type::kRules, formattedBytes);
+        CheckStructure(Type::kRules, version_, formattedBytes);
         record.handle = FormattedArea(formattedBytes).Handle();
     }
 
     /// The record, shared with the decoder; null before `Process`.
-    [[nodiscard]] std::shared_ptr<Record> GetRecord() const { return record_; }
+    [[nodiscard]] const std::shared_ptr<Record>& GetRecord() const noexcept { return record_; }
 
 protected:
     /// Makes a fresh record, releasing any earlier one.
@@ -75,6 +85,7 @@ private:
         record_->error = text;
     }
 
+    const Manager::SmbiosVersionIndex version_;
     std::shared_ptr<Record> record_;
 };
 

@@ -14,7 +14,6 @@ namespace SMBIOS::Structures {
 using Common::ByteTable;
 using Common::MakeBitSet;
 using Common::WordTable;
-using Manager::CurrentVersionIsAtLeast;
 using enum Manager::SmbiosVersionIndex;
 
 /// The value read, or none when it is the marker that stands for "no value".

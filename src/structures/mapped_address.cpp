@@ -10,7 +10,7 @@ std::string MappedAddress(const StructureReader& in, std::size_t offset, std::si
     if (address != 0xFFFFFFFF) {
         return HexText(address);
     }
-    return CurrentVersionIsAtLeast(v2_7_0) ? HexText(in.Qword(extendedOffset)) : std::string();
+    return in.VersionIsAtLeast(v2_7_0) ? HexText(in.Qword(extendedOffset)) : std::string();
 }
 
 }  // namespace SMBIOS::Structures

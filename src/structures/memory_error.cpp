@@ -6,7 +6,7 @@ namespace SMBIOS::Structures {
 
 namespace {
 
-constexpr auto ErrorTypeNames = ByteTable({
+constexpr auto kErrorTypeNames = ByteTable({
     {0x03, "OK"},
     {0x04, "Bad read"},
     {0x05, "Parity error"},
@@ -21,12 +21,12 @@ constexpr auto ErrorTypeNames = ByteTable({
     {0x0E, "Uncorrectable error"},
 });
 
-constexpr auto ErrorGranularityNames = ByteTable({
+constexpr auto kErrorGranularityNames = ByteTable({
     {0x03, "Device level"},
     {0x04, "Memory partition level"},
 });
 
-constexpr auto ErrorOperationNames = ByteTable({
+constexpr auto kErrorOperationNames = ByteTable({
     {0x03, "Read"},
     {0x04, "Write"},
     {0x05, "Partial Write"},
@@ -38,9 +38,9 @@ void DecodeErrorCodes(const StructureReader& in, MemoryErrorRecord& record) {
     record.errorType = in.Byte(0x04);
     record.errorOperation = in.Byte(0x06);
     record.errorGranularity = in.Byte(0x05);
-    record.errorTypeName = ErrorTypeNames[in.Byte(0x04)];
-    record.errorOperationName = ErrorOperationNames[in.Byte(0x06)];
-    record.errorGranularityName = ErrorGranularityNames[in.Byte(0x05)];
+    record.errorTypeName = kErrorTypeNames[in.Byte(0x04)];
+    record.errorOperationName = kErrorOperationNames[in.Byte(0x06)];
+    record.errorGranularityName = kErrorGranularityNames[in.Byte(0x05)];
 }
 
 }  // namespace SMBIOS::Structures

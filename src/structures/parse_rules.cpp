@@ -21,13 +21,14 @@ void CheckHeader(const std::vector<std::uint8_t>& formattedBytes) {
     }
 }
 
-void CheckStructure(const ParseRules& rules, const std::vector<std::uint8_t>& formattedBytes) {
+void CheckStructure(const ParseRules& rules,
+                    SmbiosVersionIndex version,
+                    const std::vector<std::uint8_t>& formattedBytes) {
     if (formattedBytes.empty()) {
         throw std::runtime_error("Invalid structure format pointer");
     }
     CheckHeader(formattedBytes);
     const std::uint8_t length = FormattedArea(formattedBytes).Length();
-    const SmbiosVersionIndex version = Manager::currentVersionIndex;
     if (!rules.lengths.Contains(length) || !rules.versions.Contains(version)) {
         throw Common::MessageException(kMalformed);
     }

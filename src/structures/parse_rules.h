@@ -72,8 +72,11 @@ struct ParseRules {
     StringSetRule strings = StringSetRule::always;
 };
 
-/// Throws when the formatted area is empty, malformed or refused by a gate, in that order.
-void CheckStructure(const ParseRules& rules, const std::vector<std::uint8_t>& formattedBytes);
+/// Throws when the formatted area is empty, malformed or refused by a gate, in that order, in a table of this
+/// version.
+void CheckStructure(const ParseRules& rules,
+                    SmbiosVersionIndex version,
+                    const std::vector<std::uint8_t>& formattedBytes);
 
 /// Throws when the formatted area is too short for a header.
 void CheckHeader(const std::vector<std::uint8_t>& formattedBytes);

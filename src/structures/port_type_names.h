@@ -5,7 +5,7 @@
 namespace SMBIOS::Structures {
 
 /// Texts of what a port is for.
-inline constexpr auto PortTypeNames = Common::ByteTable({
+inline constexpr auto kPortTypeNames = Common::ByteTable({
     {0x00, "None"},
     {0x01, "Parallel Port XT/AT Compatible"},
     {0x02, "Parallel Port PS/2"},
@@ -45,6 +45,6 @@ inline constexpr auto PortTypeNames = Common::ByteTable({
     {0xA0, "8251 Compatible"},
     {0xA1, "8251 FIFO Compatible"},
 });
-static_assert(PortTypeNames.Rows().size() == 38);
+static_assert(kPortTypeNames.Rows().size() == 38);
 
 }  // namespace SMBIOS::Structures

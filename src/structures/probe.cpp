@@ -24,7 +24,7 @@ void DecodeProbe(const StructureReader& in,
     const auto location = static_cast<std::uint8_t>(in.Byte(0x05) & 0x1F);
 
     record.oemDefined = in.Dword(0x10);
-    record.status = ProbeStatusNames[status];
+    record.status = kProbeStatusNames[status];
     record.location = Common::FindText(locations, location).value_or("");
     record.description = in.String(0x04);
     record.maximumValue = ReadingOf(in.Word(0x06), factors.value);

@@ -35,16 +35,16 @@ struct ProbeFactors {
 };
 
 /// Names of the condition of a probe or of a cooling device.
-inline constexpr auto ProbeStatusNames = Common::ByteTable({
+inline constexpr auto kProbeStatusNames = Common::ByteTable({
     {0x03, "OK"},
     {0x04, "Non-critical"},
     {0x05, "Critical"},
     {0x06, "Non-recoverable"},
 });
-static_assert(ProbeStatusNames.Rows().size() == 4);
+static_assert(kProbeStatusNames.Rows().size() == 4);
 
 /// Places of voltage probes and of electrical current probes.
-inline constexpr auto ElectricalProbeLocationNames = Common::ByteTable({
+inline constexpr auto kElectricalProbeLocationNames = Common::ByteTable({
     {0x03, "Processor"},
     {0x04, "Disk"},
     {0x05, "Peripheral Bay"},
@@ -55,7 +55,7 @@ inline constexpr auto ElectricalProbeLocationNames = Common::ByteTable({
     {0x0A, "Power Unit"},
     {0x0B, "Add-in Card"},
 });
-static_assert(ElectricalProbeLocationNames.Rows().size() == 9);
+static_assert(kElectricalProbeLocationNames.Rows().size() == 9);
 
 /// Decodes the fields of a probe whose place is named by `locations`, rows in ascending order.
 void DecodeProbe(const StructureReader& in,

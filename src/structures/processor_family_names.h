@@ -5,7 +5,7 @@
 namespace SMBIOS::Structures {
 
 /// Texts of the processor family, spelled as callers know them: with blanks around their hyphens.
-inline constexpr auto ProcessorFamilyNames = Common::WordTable({
+inline constexpr auto kProcessorFamilyNames = Common::WordTable({
     {0x03, "8086"},
     {0x04, "80286"},
     {0x05, "Intel386(TM) processor"},
@@ -249,6 +249,6 @@ inline constexpr auto ProcessorFamilyNames = Common::WordTable({
     {0x306, "Intel(R) Core(TM) Ultra 7"},
     {0x307, "Intel(R) Core(TM) Ultra 9"},
 });
-static_assert(ProcessorFamilyNames.Rows().size() == 242);
+static_assert(kProcessorFamilyNames.Rows().size() == 242);
 
 }  // namespace SMBIOS::Structures

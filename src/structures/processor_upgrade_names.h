@@ -5,7 +5,7 @@
 namespace SMBIOS::Structures {
 
 /// Texts of the processor upgrade: how the processor sits in its socket.
-inline constexpr auto ProcessorUpgradeNames = Common::ByteTable({
+inline constexpr auto kProcessorUpgradeNames = Common::ByteTable({
     {0x03, "Daughter Board"},
     {0x04, "ZIF Socket"},
     {0x05, "Replaceable Piggy Back"},
@@ -92,6 +92,6 @@ inline constexpr auto ProcessorUpgradeNames = Common::ByteTable({
     {0x56, "Socket BGA2114"},
     {0x57, "Socket BGA2833"},
 });
-static_assert(ProcessorUpgradeNames.Rows().size() == 85);
+static_assert(kProcessorUpgradeNames.Rows().size() == 85);
 
 }  // namespace SMBIOS::Structures

@@ -5,7 +5,7 @@
 namespace SMBIOS::Structures {
 
 /// Texts of the kind of a system slot.
-inline constexpr auto SlotTypeNames = Common::ByteTable({
+inline constexpr auto kSlotTypeNames = Common::ByteTable({
     {0x03, "ISA"},
     {0x04, "MCA"},
     {0x05, "EISA"},
@@ -83,6 +83,6 @@ inline constexpr auto SlotTypeNames = Common::ByteTable({
     {0xC5, "Enterprise and Datacenter 1U E1 Form Factor Slot (EDSFF E1.S, E1.L)"},
     {0xC6, "Enterprise and Datacenter 3\" E3 Form Factor Slot(EDSFF E3.S, E3.L)"},
 });
-static_assert(SlotTypeNames.Rows().size() == 76);
+static_assert(kSlotTypeNames.Rows().size() == 76);
 
 }  // namespace SMBIOS::Structures

@@ -5,16 +5,26 @@
 #include <string>
 #include <vector>
 
+#include "manager/smbios_version.h"
 #include "structures/formatted_area.h"
 
 namespace SMBIOS::Structures {
 
-/// What a decoder reads its fields from: the formatted area and the string set of one structure. Valid only
-/// while the bytes and strings it was given are.
+/// What a decoder reads its fields from: the formatted area and the string set of one structure, and the
+/// version of its table. Valid only while the bytes and strings it was given are.
 class StructureReader : public FormattedArea {
 public:
-    StructureReader(const std::vector<std::uint8_t>& formattedBytes, const std::vector<std::string>& strings)
-        : FormattedArea(formattedBytes), formattedBytes_(formattedBytes), strings_(strings) {}
+    StructureReader(const std::vector<std::uint8_t>& formattedBytes,
+                    const std::vector<std::string>& strings,
+                    Manager::SmbiosVersionIndex version)
+        : FormattedArea(formattedBytes),
+          formattedBytes_(formattedBytes),
+          strings_(strings),
+          version_(version) {}
+
+    [[nodiscard]] bool VersionIsAtLeast(Manager::SmbiosVersionIndex version) const noexcept {
+        return version_ >= version;
+    }
 
     /// The string whose number stands at `offset`, trimmed; empty when there is no such string.
     [[nodiscard]] std::string String(std::size_t offset) const;
@@ -26,6 +36,7 @@ public:
 private:
     const std::vector<std::uint8_t>& formattedBytes_;
     const std::vector<std::string>& strings_;
+    const Manager::SmbiosVersionIndex version_;
 };
 
 }  // namespace SMBIOS::Structures

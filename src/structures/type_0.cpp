@@ -19,7 +19,7 @@ constexpr Gate kGates[] = {
     {LengthAtLeast(0x18), VersionBelow(v3_1_0), "v3.1.0 structure or later in a v3.0.0 BIOS or older"},
 };
 
-constexpr const char* BiosCharacteristicNames[] = {
+constexpr const char* kBiosCharacteristicNames[] = {
     "dontCare",
     "dontCare",
     "dontCare",
@@ -85,7 +85,7 @@ constexpr const char* BiosCharacteristicNames[] = {
     "sysVendorSpec14",
     "sysVendorSpec15",
 };
-static_assert(std::size(BiosCharacteristicNames) == 64);
+static_assert(std::size(kBiosCharacteristicNames) == 64);
 
 /// ROM size in bytes; 0xFF blocks refer to the extended size, which tables before 3.1.0 do not have.
 std::optional<std::uint64_t> RomSizeOf(const StructureReader& in) {
@@ -96,7 +96,7 @@ std::optional<std::uint64_t> RomSizeOf(const StructureReader& in) {
     if (lastBlock != 0xFF) {
         return (lastBlock + 1) * kBlock;
     }
-    if (!CurrentVersionIsAtLeast(v3_1_0)) {
+    if (!in.VersionIsAtLeast(v3_1_0)) {
         return std::nullopt;
     }
     const std::uint64_t count = in.Word(0x18);  // departs from the standard: unit bits count as size
@@ -135,7 +135,7 @@ void Type_0::DecodeFields(StructureReader& in, Type0Struct& record) {
     record.ecFirmwareMinorRelease = in.Byte(0x17);
     record.systemBiosRelease = ReleaseText(in.Byte(0x14), in.Byte(0x15));
     record.ecFirmwareRelease = ReleaseText(in.Byte(0x16), in.Byte(0x17));
-    record.characteristics = MakeBitSet(in.Qword(0x0A), 64, BiosCharacteristicNames);
+    record.characteristics = MakeBitSet(in.Qword(0x0A), 64, kBiosCharacteristicNames);
     // Departs from the standard: the extension bytes at 0x12 and 0x13 are not reported.
 }
 

@@ -34,6 +34,10 @@ struct Type0Struct : StructureRecord {
 
 /// Decoder of the BIOS Information structure: who made the firmware, its release and what it supports.
 class Type_0 final : public Decoder<Type_0, Type0::Types::Type0Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::BiosInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -14,10 +14,10 @@ namespace {
 
 constexpr Gate kGates[] = {
     {LengthAtLeast(0x19), VersionExactly(v2_0_0), "v2.1.0 structure or later in a v2.0.0 BIOS"},
-    {LengthAtLeast(0x1A), VersionBelow(reserved7), "v2.4.0 structure or later in a v2.3.4 BIOS or older"},
+    {LengthAtLeast(0x1A), VersionBelow(v2_4_0), "v2.4.0 structure or later in a v2.3.4 BIOS or older"},
 };
 
-constexpr auto WakeUpTypeNames = ByteTable({
+constexpr auto kWakeUpTypeNames = ByteTable({
     {3, "APM Timer"},
     {4, "Modern Ring"},
     {5, "LAN Remote"},
@@ -69,11 +69,11 @@ void Type_1::DecodeFields(StructureReader& in, Type1Struct& record) {
     record.productName = in.String(0x05);
     record.serialNumber = in.String(0x07);
 
-    if (CurrentVersionIsAtLeast(v2_1_0)) {
+    if (in.VersionIsAtLeast(v2_1_0)) {
         record.wakeUpTypeValue = in.Byte(0x18);
-        record.wakeUpType = WakeUpTypeNames[in.Byte(0x18)];
+        record.wakeUpType = kWakeUpTypeNames[in.Byte(0x18)];
     }
-    if (CurrentVersionIsAtLeast(v2_4_0)) {
+    if (in.VersionIsAtLeast(v2_4_0)) {
         record.family = in.String(0x1A);
         record.skuNumber = in.String(0x19);
     }

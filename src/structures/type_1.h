@@ -28,6 +28,10 @@ struct Type1Struct : StructureRecord {
 
 /// Decoder of the System Information structure: the computer as a product.
 class Type_1 final : public Decoder<Type_1, Type1::Types::Type1Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::SystemInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -14,6 +14,10 @@ struct Type11Struct : StructureRecord {};
 
 /// Decoder of OEM Strings structures: free-form texts of the maker.
 class Type_11 final : public Decoder<Type_11, Type11::Types::Type11Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::OemStrings;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

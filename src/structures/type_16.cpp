@@ -14,7 +14,7 @@ constexpr Gate kGates[] = {
     {LengthAbove(0x17), kAnyVersion, "Unsupported BIOS structure."},
 };
 
-constexpr auto LocationNames = ByteTable({
+constexpr auto kLocationNames = ByteTable({
     {0x03, "System board or motherboard"},
     {0x04, "ISA add-on card"},
     {0x05, "EISA add-on card"},
@@ -30,7 +30,7 @@ constexpr auto LocationNames = ByteTable({
     {0xA4, "CXL add-on card"},
 });
 
-constexpr auto UseNames = ByteTable({
+constexpr auto kUseNames = ByteTable({
     {0x03, "System memory"},
     {0x04, "Video memory"},
     {0x05, "Flash memory"},
@@ -38,7 +38,7 @@ constexpr auto UseNames = ByteTable({
     {0x07, "Cache memory"},
 });
 
-constexpr auto MemoryErrorCorrectionNames = ByteTable({
+constexpr auto kMemoryErrorCorrectionNames = ByteTable({
     {0x03, "None"},
     {0x04, "Parity"},
     {0x05, "Single-bit ECC"},
@@ -52,7 +52,7 @@ std::optional<std::uint64_t> MaximumCapacityOf(const StructureReader& in) {
     if (capacity != 0) {
         return capacity;
     }
-    return CurrentVersionIsAtLeast(v2_7_0) ? std::optional(in.Qword(0x0F)) : std::nullopt;
+    return in.VersionIsAtLeast(v2_7_0) ? std::optional(in.Qword(0x0F)) : std::nullopt;
 }
 
 }  // namespace
@@ -70,9 +70,9 @@ void Type_16::DecodeFields(StructureReader& in, Type16Struct& record) {
     record.memoryErrorCorrection = in.Byte(0x06);
     record.numberOfMemoryDevices = in.Word(0x0D);
     record.memoryErrorInformationHandle = in.Word(0x0B);
-    record.useName = UseNames[in.Byte(0x05)];
-    record.locationName = LocationNames[in.Byte(0x04)];
-    record.memoryErrorCorrectionName = MemoryErrorCorrectionNames[in.Byte(0x06)];
+    record.useName = kUseNames[in.Byte(0x05)];
+    record.locationName = kLocationNames[in.Byte(0x04)];
+    record.memoryErrorCorrectionName = kMemoryErrorCorrectionNames[in.Byte(0x06)];
     record.maximumCapacity = MaximumCapacityOf(in);
 }
 

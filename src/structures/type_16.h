@@ -28,6 +28,10 @@ struct Type16Struct : StructureRecord {
 
 /// Decoder of Physical Memory Array structures: one per group of memory slots.
 class Type_16 final : public Decoder<Type_16, Type16::Types::Type16Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::PhysicalMemoryArray;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

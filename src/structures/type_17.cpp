@@ -19,7 +19,7 @@ constexpr Gate kGates[] = {
     {LengthAbove(0x5C), VersionExactly(v3_3_0), "v3.7.0 structure or later in a v3.3.0 BIOS"},
 };
 
-constexpr auto FormFactorNames = ByteTable({
+constexpr auto kFormFactorNames = ByteTable({
     {0x03, "SIMM"},
     {0x04, "SIP"},
     {0x05, "Chip"},
@@ -37,7 +37,7 @@ constexpr auto FormFactorNames = ByteTable({
     {0x11, "CAMM"},
 });
 
-constexpr auto MemoryTypeNames = ByteTable({
+constexpr auto kMemoryTypeNames = ByteTable({
     {0x03, "DRAM"},
     {0x04, "EDRAM"},
     {0x05, "VRAM"},
@@ -71,7 +71,7 @@ constexpr auto MemoryTypeNames = ByteTable({
     {0x24, "HBM3 (High Bandwidth Memory Generation 3)"},
 });
 
-constexpr const char* TypeDetailNames[] = {
+constexpr const char* kTypeDetailNames[] = {
     "dontCare",
     "dontCare",
     "dontCare",
@@ -90,7 +90,7 @@ constexpr const char* TypeDetailNames[] = {
     "LRDIMM",
 };
 
-constexpr const char* OperatingModeCapabilityNames[] = {
+constexpr const char* kOperatingModeCapabilityNames[] = {
     "dontCare",
     "dontCare",
     "dontCare",
@@ -99,7 +99,7 @@ constexpr const char* OperatingModeCapabilityNames[] = {
     "Block-accessible persistent memory",
 };
 
-constexpr const char* MemoryTechnologyNames[] = {
+constexpr const char* kMemoryTechnologyNames[] = {
     "dontCare",
     "dontCare",
     "DRAM",
@@ -122,7 +122,7 @@ std::optional<std::uint64_t> SizeOf(const StructureReader& in) {
             word & 0x7FFFU;  // departs from the standard: 0x7FFF is a size like any other
         const bool inKilobytes = (word & 0x8000U) != 0;
         size = inKilobytes ? count : count * kMegabyte;  // departs from the standard: kilobytes stay unscaled
-    } else if (CurrentVersionIsAtLeast(v2_7_0)) {
+    } else if (in.VersionIsAtLeast(v2_7_0)) {
         size = (in.Dword(0x1C) & 0xFFFFU) * kMegabyte;  // departs from the standard: upper half ignored
     }
     return size == 0 ? std::nullopt : std::optional(size);
@@ -136,7 +136,7 @@ std::optional<std::uint32_t> SpeedOf(const StructureReader& in) {
     if (speed != 0xFFFF) {
         return speed;
     }
-    return CurrentVersionIsAtLeast(v3_3_0) ? std::optional(in.Dword(0x54)) : std::nullopt;
+    return in.VersionIsAtLeast(v3_3_0) ? std::optional(in.Dword(0x54)) : std::nullopt;
 }
 
 std::optional<std::uint32_t> ConfiguredSpeedOf(const StructureReader& in) {
@@ -145,7 +145,7 @@ std::optional<std::uint32_t> ConfiguredSpeedOf(const StructureReader& in) {
         return speed;
     }
     // Departs from the standard: only the low half of the extended value is taken.
-    return CurrentVersionIsAtLeast(v3_3_0) ? std::optional(in.Dword(0x58) & 0xFFFFU) : std::nullopt;
+    return in.VersionIsAtLeast(v3_3_0) ? std::optional(in.Dword(0x58) & 0xFFFFU) : std::nullopt;
 }
 
 /// The low word of the byte-reversed 64-bit value. Departs from the standard: 0 for every identifier.
@@ -177,35 +177,35 @@ void Type_17::DecodeFields(StructureReader& in, Type17Struct& record) {
     record.dataWidth = ValueUnless(0xFFFF, in.Word(0x0A));
     record.totalWidth = ValueUnless(0xFFFF, in.Word(0x08));
     record.memoryErrorInformationHandle = ValueUnless(0xFFFE, in.Word(0x06));
-    record.formFactorName = FormFactorNames[in.Byte(0x0E)];
-    record.memoryTypeName = MemoryTypeNames[in.Byte(0x12)];
-    record.typeDetailFlags = MakeBitSet(in.Word(0x13), 16, TypeDetailNames);
+    record.formFactorName = kFormFactorNames[in.Byte(0x0E)];
+    record.memoryTypeName = kMemoryTypeNames[in.Byte(0x12)];
+    record.typeDetailFlags = MakeBitSet(in.Word(0x13), 16, kTypeDetailNames);
     record.deviceLocator = in.String(0x10);
 
-    if (CurrentVersionIsAtLeast(v2_3_0)) {
+    if (in.VersionIsAtLeast(v2_3_0)) {
         record.speed = SpeedOf(in);
         record.assetTag = in.String(0x19);
         record.partNumber = in.String(0x1A);
         record.manufacturer = in.String(0x17);
         record.serialNumber = in.String(0x18);
     }
-    if (CurrentVersionIsAtLeast(v2_6_0)) {
+    if (in.VersionIsAtLeast(v2_6_0)) {
         record.rank = in.Byte(0x1B) & 0x07;  // departs from the standard: three bits instead of four
     }
-    if (CurrentVersionIsAtLeast(v2_7_0)) {
+    if (in.VersionIsAtLeast(v2_7_0)) {
         record.configuredSpeed = ConfiguredSpeedOf(in);
     }
-    if (CurrentVersionIsAtLeast(v2_8_0)) {
+    if (in.VersionIsAtLeast(v2_8_0)) {
         record.minimumVoltage = in.Word(0x22);
         record.maximumVoltage = in.Word(0x24);
         record.configuredVoltage = in.Word(0x26);
     }
-    if (CurrentVersionIsAtLeast(v3_2_0)) {
+    if (in.VersionIsAtLeast(v3_2_0)) {
         record.memoryTechnology = in.Byte(0x28);
         record.operatingModeCapability = in.Word(0x29);
         // Departs from the standard: the technology code is read as a bit mask.
-        record.memoryTechnologyFlags = MakeBitSet(in.Byte(0x28), 8, MemoryTechnologyNames);
-        record.operatingModeCapabilityFlags = MakeBitSet(in.Word(0x29), 16, OperatingModeCapabilityNames);
+        record.memoryTechnologyFlags = MakeBitSet(in.Byte(0x28), 8, kMemoryTechnologyNames);
+        record.operatingModeCapabilityFlags = MakeBitSet(in.Word(0x29), 16, kOperatingModeCapabilityNames);
         record.firmwareVersion = in.String(0x2B);
         record.cacheSize = ValueUnless(kUnknownSize, in.Qword(0x44));
         record.logicalSize = ValueUnless(kUnknownSize, in.Qword(0x4C));
@@ -216,7 +216,7 @@ void Type_17::DecodeFields(StructureReader& in, Type17Struct& record) {
         record.memorySubsystemControllerManufacturerId = SwappedIdentifier(in.Word(0x30));
         record.memorySubsystemControllerProductId = SwappedIdentifier(in.Word(0x32));
     }
-    if (CurrentVersionIsAtLeast(v3_7_0)) {
+    if (in.VersionIsAtLeast(v3_7_0)) {
         record.pmic0RevisionNumber = in.Word(0x5E);
         record.rcdRevisionNumber = in.Word(0x62);
         record.rcdManufacturerId = SwappedIdentifier(in.Word(0x60));

@@ -62,6 +62,10 @@ struct Type17Struct : StructureRecord {
 
 /// Decoder of Memory Device structures: one per memory slot or soldered device.
 class Type_17 final : public Decoder<Type_17, Type17::Types::Type17Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::MemoryDevice;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

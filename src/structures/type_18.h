@@ -14,6 +14,10 @@ struct Type18Struct : MemoryErrorRecord {};
 
 /// Decoder of 32-bit Memory Error Information structures: the last error of an array or a device.
 class Type_18 final : public Decoder<Type_18, Type18::Types::Type18Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::MemoryErrorInformation32Bit;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -24,6 +24,10 @@ struct Type19Struct : StructureRecord {
 
 /// Decoder of Memory Array Mapped Address structures: the address range of a physical memory array.
 class Type_19 final : public Decoder<Type_19, Type19::Types::Type19Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::MemoryArrayMappedAddress;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

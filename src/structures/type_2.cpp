@@ -5,7 +5,7 @@
 
 namespace SMBIOS::Structures {
 
-using Manager::BoardTypeNames;
+using Manager::kBoardTypeNames;
 using Type2::Types::BoardFeatureFlags;
 using Type2::Types::Type2Struct;
 
@@ -51,7 +51,7 @@ void Type_2::DecodeFields(StructureReader& in, Type2Struct& record) {
     record.assetTag = in.String(0x08);
     record.manufacturer = in.String(0x04);
     record.serialNumber = in.String(0x07);
-    record.boardType = BoardTypeNames[in.Byte(0x0D)];
+    record.boardType = kBoardTypeNames[in.Byte(0x0D)];
     record.containedObjectHandles = ContainedObjectHandlesOf(in);
 }
 

@@ -41,6 +41,10 @@ struct Type2Struct : StructureRecord {
 
 /// Decoder of Baseboard (or Module) Information structures.
 class Type_2 final : public Decoder<Type_2, Type2::Types::Type2Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::BaseboardInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -27,6 +27,10 @@ struct Type20Struct : StructureRecord {
 
 /// Decoder of Memory Device Mapped Address structures: the address range of a memory device.
 class Type_20 final : public Decoder<Type_20, Type20::Types::Type20Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::MemoryDeviceMappedAddress;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

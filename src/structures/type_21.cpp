@@ -8,7 +8,7 @@ using Type21::Types::Type21Struct;
 
 namespace {
 
-constexpr auto PointingDeviceTypeNames = ByteTable({
+constexpr auto kPointingDeviceTypeNames = ByteTable({
     {0x03, "Mouse"},
     {0x04, "Track Ball"},
     {0x05, "Track Point"},
@@ -18,7 +18,7 @@ constexpr auto PointingDeviceTypeNames = ByteTable({
     {0x09, "Optical Sensor"},
 });
 
-constexpr auto PointingDeviceInterfaceNames = ByteTable({
+constexpr auto kPointingDeviceInterfaceNames = ByteTable({
     {0x03, "Serial"},
     {0x04, "PS/2"},
     {0x05, "Infrared"},
@@ -43,8 +43,8 @@ void Type_21::DecodeFields(StructureReader& in, Type21Struct& record) {
     record.typeValue = in.Byte(0x04);
     record.interfaceValue = in.Byte(0x05);
     record.numberOfButtons = in.Byte(0x06);
-    record.type = PointingDeviceTypeNames[in.Byte(0x04)];
-    record.interface = PointingDeviceInterfaceNames[in.Byte(0x05)];
+    record.type = kPointingDeviceTypeNames[in.Byte(0x04)];
+    record.interface = kPointingDeviceInterfaceNames[in.Byte(0x05)];
 }
 
 }  // namespace SMBIOS::Structures

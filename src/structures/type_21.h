@@ -24,6 +24,10 @@ struct Type21Struct : StructureRecord {
 
 /// Decoder of Built-in Pointing Device structures: one per mouse, touch pad or the like.
 class Type_21 final : public Decoder<Type_21, Type21::Types::Type21Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::BuiltInPointingDevice;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

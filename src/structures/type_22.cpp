@@ -15,7 +15,7 @@ constexpr Gate kGates[] = {
     {LengthAtLeast(0x11), VersionBelow(v2_2_0), "v2.2.0 structure or later in a v2.1.0 BIOS or older"},
 };
 
-constexpr auto BatteryChemistryNames = ByteTable({
+constexpr auto kBatteryChemistryNames = ByteTable({
     {0x03, "Lead Acid"},
     {0x04, "Nickel Cadmium"},
     {0x05, "Nickel metal hydride"},
@@ -35,7 +35,7 @@ std::string ManufactureDateOf(const StructureReader& in) {
     if (in.Byte(0x06) != 0) {
         return in.String(0x06);
     }
-    return CurrentVersionIsAtLeast(v2_2_0) ? DateText(in.Word(0x12)) : std::string();
+    return in.VersionIsAtLeast(v2_2_0) ? DateText(in.Word(0x12)) : std::string();
 }
 
 std::optional<std::uint64_t> DesignCapacityOf(const StructureReader& in) {
@@ -43,22 +43,22 @@ std::optional<std::uint64_t> DesignCapacityOf(const StructureReader& in) {
     if (capacity == 0) {
         return std::nullopt;
     }
-    return CurrentVersionIsAtLeast(v2_2_0) ? capacity * in.Byte(0x15) : capacity;
+    return in.VersionIsAtLeast(v2_2_0) ? capacity * in.Byte(0x15) : capacity;
 }
 
 std::string SerialNumberOf(const StructureReader& in) {
     if (in.Byte(0x07) != 0) {
         return in.String(0x07);
     }
-    return CurrentVersionIsAtLeast(v2_2_0) ? Common::format("{}", in.Word(0x10)) : std::string();
+    return in.VersionIsAtLeast(v2_2_0) ? Common::format("{}", in.Word(0x10)) : std::string();
 }
 
 std::string_view ChemistryNameOf(const StructureReader& in) {
-    if (in.Byte(0x09) == kUnknownChemistry && CurrentVersionIsAtLeast(v2_2_0)) {
+    if (in.Byte(0x09) == kUnknownChemistry && in.VersionIsAtLeast(v2_2_0)) {
         // Departs from the standard: the number of the SBDS chemistry string is read as a chemistry code.
-        return BatteryChemistryNames[in.Byte(0x14)];
+        return kBatteryChemistryNames[in.Byte(0x14)];
     }
-    return BatteryChemistryNames[in.Byte(0x09)];
+    return kBatteryChemistryNames[in.Byte(0x09)];
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ void Type_22::DecodeFields(StructureReader& in, Type22Struct& record) {
     record.designVoltage = ValueUnless(0, in.Word(0x0C));
     record.maximumErrorInBatteryData = ValueUnless(0xFF, in.Byte(0x0F));
 
-    if (CurrentVersionIsAtLeast(v2_2_0)) {
+    if (in.VersionIsAtLeast(v2_2_0)) {
         record.oemSpecific = in.Dword(0x16);
     }
 }

@@ -31,6 +31,10 @@ struct Type22Struct : StructureRecord {
 
 /// Decoder of Portable Battery structures: one per battery of the system.
 class Type_22 final : public Decoder<Type_22, Type22::Types::Type22Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::PortableBattery;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -14,6 +14,10 @@ struct Type26Struct : ProbeRecord {};
 
 /// Decoder of Voltage Probe structures: one per sensor of a supply voltage.
 class Type_26 final : public Decoder<Type_26, Type26::Types::Type26Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::VoltageProbe;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -17,7 +17,7 @@ constexpr Gate kGates[] = {
      "BIOS structure of version 2.7.0 or later in BIOS that is 2.6.1 or older"},
 };
 
-constexpr auto CoolingDeviceTypeNames = ByteTable({
+constexpr auto kCoolingDeviceTypeNames = ByteTable({
     {0x03, "Fan"},
     {0x04, "Centrifugal blower"},
     {0x05, "Chip Fan"},
@@ -44,10 +44,10 @@ void Type_27::DecodeFields(StructureReader& in, Type27Struct& record) {
     record.deviceTypeAndStatus = in.Byte(0x06);
     record.coolingUnitGroup = in.Byte(0x07);
     record.temperatureProbeHandle = in.Word(0x04);
-    record.deviceType = CoolingDeviceTypeNames[deviceType];
-    record.status = ProbeStatusNames[status];
+    record.deviceType = kCoolingDeviceTypeNames[deviceType];
+    record.status = kProbeStatusNames[status];
 
-    if (CurrentVersionIsAtLeast(v2_7_0) && in.Length() >= kLengthWithDescription) {
+    if (in.VersionIsAtLeast(v2_7_0) && in.Length() >= kLengthWithDescription) {
         record.description = in.String(0x0E);
     }
 }

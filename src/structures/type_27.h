@@ -26,6 +26,10 @@ struct Type27Struct : StructureRecord {
 
 /// Decoder of Cooling Device structures: one per fan or other means of cooling.
 class Type_27 final : public Decoder<Type_27, Type27::Types::Type27Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::CoolingDevice;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

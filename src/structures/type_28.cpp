@@ -8,7 +8,7 @@ using Type28::Types::Type28Struct;
 
 namespace {
 
-constexpr auto TemperatureProbeLocationNames = ByteTable({
+constexpr auto kTemperatureProbeLocationNames = ByteTable({
     {0x03, "Processor"},
     {0x04, "Disk"},
     {0x05, "Peripheral Bay"},
@@ -23,7 +23,7 @@ constexpr auto TemperatureProbeLocationNames = ByteTable({
     {0x0E, "Power System Board"},
     {0x0F, "Drive Back Plane"},
 });
-static_assert(TemperatureProbeLocationNames.Rows().size() == 13);
+static_assert(kTemperatureProbeLocationNames.Rows().size() == 13);
 
 constexpr ProbeFactors kFactors = {.value = 0.1F, .resolution = 0.001F, .tolerance = 0.1F, .accuracy = 0.01F};
 
@@ -32,7 +32,7 @@ constexpr ProbeFactors kFactors = {.value = 0.1F, .resolution = 0.001F, .toleran
 constinit const ParseRules Type_28::kRules = {.versions = VersionAtLeast(v2_2_0)};
 
 void Type_28::DecodeFields(StructureReader& in, Type28Struct& record) {
-    DecodeProbe(in, TemperatureProbeLocationNames.Rows(), kFactors, record);
+    DecodeProbe(in, kTemperatureProbeLocationNames.Rows(), kFactors, record);
 }
 
 }  // namespace SMBIOS::Structures

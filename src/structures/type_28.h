@@ -14,6 +14,10 @@ struct Type28Struct : ProbeRecord {};
 
 /// Decoder of Temperature Probe structures: one per temperature sensor.
 class Type_28 final : public Decoder<Type_28, Type28::Types::Type28Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::TemperatureProbe;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -14,6 +14,10 @@ struct Type29Struct : ProbeRecord {};
 
 /// Decoder of Electrical Current Probe structures: one per sensor of a supply current.
 class Type_29 final : public Decoder<Type_29, Type29::Types::Type29Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::ElectricalCurrentProbe;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -7,7 +7,7 @@
 
 namespace SMBIOS::Structures {
 
-using Manager::BoardTypeNames;
+using Manager::kBoardTypeNames;
 using Type3::Types::ContainedElement;
 using Type3::Types::Type3Struct;
 
@@ -18,7 +18,7 @@ constexpr Gate kGates[] = {
     {LengthAtLeast(0x0E), VersionBelow(v2_3_0), "v2.3.0 structure or later in a v2.2.0 BIOS or older"},
 };
 
-constexpr auto ChassisTypeNames = ByteTable({
+constexpr auto kChassisTypeNames = ByteTable({
     {3, "Desktop"},
     {4, "Low Profile Desktop"},
     {5, "Pizza Box"},
@@ -54,16 +54,16 @@ constexpr auto ChassisTypeNames = ByteTable({
     {35, "Mini PC"},
     {36, "Stick PC"},
 });
-static_assert(ChassisTypeNames.Rows().size() == 34);
+static_assert(kChassisTypeNames.Rows().size() == 34);
 
-constexpr auto ChassisStateNames = ByteTable({
+constexpr auto kChassisStateNames = ByteTable({
     {3, "Safe"},
     {4, "Warning"},
     {5, "Critical"},
     {6, "Non-recoverable"},
 });
 
-constexpr auto ChassisSecurityStatusNames = ByteTable({
+constexpr auto kChassisSecurityStatusNames = ByteTable({
     {3, "None"},
     {4, "External interface locked out"},
     {5, "External interface enabled"},
@@ -97,7 +97,7 @@ ContainedElement ElementAt(const StructureReader& in, std::size_t offset) {
     return {
         .typeValue = type,
         .typeSelect = HasTopBit(in.Byte(offset)) ? "Structure" : "Baseboard",
-        .typeName = std::string(BoardTypeNames[type]),  // departs from the standard: structure types too
+        .typeName = std::string(kBoardTypeNames[type]),  // departs from the standard: structure types too
         .minimum = in.Byte(offset + 1),
         .maximum = in.Byte(offset + 2),
     };
@@ -132,27 +132,27 @@ void Type_3::DecodeFields(StructureReader& in, Type3Struct& record) {
     record.chassisLock = HasTopBit(in.Byte(0x05));
     record.version = in.String(0x06);
     record.assetTag = in.String(0x08);
-    record.chassisType = ChassisTypeNames[LowSevenBits(in.Byte(0x05))];
+    record.chassisType = kChassisTypeNames[LowSevenBits(in.Byte(0x05))];
     record.manufacturer = in.String(0x04);
     record.serialNumber = in.String(0x07);
 
-    if (CurrentVersionIsAtLeast(v2_1_0)) {
+    if (in.VersionIsAtLeast(v2_1_0)) {
         record.thermalStateValue = in.Byte(0x0B);
         record.bootUpStateValue = in.Byte(0x09);
         record.securityStatusValue = in.Byte(0x0C);
         record.powerSupplyStateValue = in.Byte(0x0A);
-        record.thermalState = ChassisStateNames[in.Byte(0x0B)];
-        record.bootUpState = ChassisStateNames[in.Byte(0x09)];
-        record.powerSupplyState = ChassisStateNames[in.Byte(0x0A)];
-        record.securityStatus = ChassisSecurityStatusNames[in.Byte(0x0C)];
+        record.thermalState = kChassisStateNames[in.Byte(0x0B)];
+        record.bootUpState = kChassisStateNames[in.Byte(0x09)];
+        record.powerSupplyState = kChassisStateNames[in.Byte(0x0A)];
+        record.securityStatus = kChassisSecurityStatusNames[in.Byte(0x0C)];
     }
-    if (CurrentVersionIsAtLeast(v2_3_0)) {
+    if (in.VersionIsAtLeast(v2_3_0)) {
         record.height = in.Byte(0x11);
         record.oemDefined = in.Dword(0x0D);
         record.numberOfPowerCords = in.Byte(0x12);
         record.containedElements = ContainedElementsOf(in);
     }
-    if (CurrentVersionIsAtLeast(v2_7_0)) {
+    if (in.VersionIsAtLeast(v2_7_0)) {
         record.skuNumber = SkuNumberOf(in);
     }
 }

@@ -49,6 +49,10 @@ struct Type3Struct : StructureRecord {
 
 /// Decoder of System Enclosure or Chassis structures.
 class Type_3 final : public Decoder<Type_3, Type3::Types::Type3Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::SystemEnclosure;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

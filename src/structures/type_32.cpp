@@ -10,7 +10,7 @@ using Type32::Types::Type32Struct;
 
 namespace {
 
-constexpr auto BootStatusNames = ByteTable({
+constexpr auto kBootStatusNames = ByteTable({
     {0x00, "No errors detected"},
     {0x01, "No bootable media"},
     {0x02, "\"Normal\" operating system failed to load"},
@@ -23,7 +23,7 @@ constexpr auto BootStatusNames = ByteTable({
 });
 
 std::string_view BootStatusName(std::uint8_t code) {
-    if (const auto name = BootStatusNames.Find(code)) {
+    if (const auto name = kBootStatusNames.Find(code)) {
         return *name;
     }
     if (code >= 192) {

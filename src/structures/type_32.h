@@ -23,6 +23,10 @@ struct Type32Struct : StructureRecord {
 
 /// Decoder of System Boot Information structures: how the last boot went.
 class Type_32 final : public Decoder<Type_32, Type32::Types::Type32Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::SystemBootInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

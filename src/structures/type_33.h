@@ -14,6 +14,10 @@ struct Type33Struct : MemoryErrorRecord {};
 
 /// Decoder of 64-bit Memory Error Information structures: the last error of an array or a device.
 class Type_33 final : public Decoder<Type_33, Type33::Types::Type33Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::MemoryErrorInformation64Bit;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -8,7 +8,7 @@ using Type39::Types::Type39Struct;
 
 namespace {
 
-constexpr auto PowerSupplyTypeNames = ByteTable({
+constexpr auto kPowerSupplyTypeNames = ByteTable({
     {0x03, "Linear"},
     {0x04, "Switching"},
     {0x05, "Battery"},
@@ -17,13 +17,13 @@ constexpr auto PowerSupplyTypeNames = ByteTable({
     {0x08, "Regulator"},
 });
 
-constexpr auto PowerSupplyStatusNames = ByteTable({
+constexpr auto kPowerSupplyStatusNames = ByteTable({
     {0x03, "OK"},
     {0x04, "Non-critical"},
     {0x05, "Critical; power supply has failed and has been taken off-line."},
 });
 
-constexpr auto InputVoltageRangeSwitchingNames = ByteTable({
+constexpr auto kInputVoltageRangeSwitchingNames = ByteTable({
     {0x03, "Manual"},
     {0x04, "Auto-switch"},
     {0x05, "Wide range"},
@@ -38,7 +38,7 @@ constexpr std::uint8_t CodeInBits(std::uint16_t characteristics, unsigned last, 
 
 }  // namespace
 
-constinit const ParseRules Type_39::kRules = {.versions = VersionAtLeast(reserved4)};
+constinit const ParseRules Type_39::kRules = {.versions = VersionAtLeast(v2_4_0)};
 
 void Type_39::DecodeFields(StructureReader& in, Type39Struct& record) {
     const std::uint16_t characteristics = in.Word(0x0F);  // departs from the standard: one byte further on
@@ -57,9 +57,9 @@ void Type_39::DecodeFields(StructureReader& in, Type39Struct& record) {
     record.serialNumber = in.String(0x08);
     record.revisionLevel = in.String(0x0B);
     record.modelPartNumber = in.String(0x0A);
-    record.dmtfType = PowerSupplyTypeNames[CodeInBits(characteristics, 13, 10)];
-    record.status = PowerSupplyStatusNames[CodeInBits(characteristics, 9, 7)];
-    record.inputVoltageRangeSwitching = InputVoltageRangeSwitchingNames[CodeInBits(characteristics, 6, 3)];
+    record.dmtfType = kPowerSupplyTypeNames[CodeInBits(characteristics, 13, 10)];
+    record.status = kPowerSupplyStatusNames[CodeInBits(characteristics, 9, 7)];
+    record.inputVoltageRangeSwitching = kInputVoltageRangeSwitchingNames[CodeInBits(characteristics, 6, 3)];
 }
 
 }  // namespace SMBIOS::Structures

@@ -35,6 +35,10 @@ struct Type39Struct : StructureRecord {
 
 /// Decoder of System Power Supply structures: one per power supply.
 class Type_39 final : public Decoder<Type_39, Type39::Types::Type39Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::SystemPowerSupply;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

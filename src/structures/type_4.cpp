@@ -20,28 +20,28 @@ constexpr Gate kGates[] = {
     {LengthAbove(0x32), VersionBelow(v3_8_0), "v3.8.0 structure or later in a v3.7.1 BIOS or older"},
 };
 
-constexpr auto ProcessorTypeNames = ByteTable({
+constexpr auto kProcessorTypeNames = ByteTable({
     {0x03, "Central Processor"},
     {0x04, "Math Processor"},
     {0x05, "DSP Processor"},
     {0x06, "Video Processor"},
 });
 
-constexpr auto StatusTexts = ByteTable({
+constexpr auto kStatusTexts = ByteTable({
     {0x01, "CPU Enabled"},
     {0x02, "CPU Disabled by User through Firmware Setup"},
     {0x03, "CPU Disabled By firmware (POST Error)"},
     {0x04, "CPU is Idle, waiting to be enabled."},
 });
 
-constexpr const char* SupportedVoltageNames[] = {
+constexpr const char* kSupportedVoltageNames[] = {
     "5V",
     "3.3V",
     "2.9V",
 };
 
 // Spelled as callers know them, "enhacedVirtualization" included.
-constexpr const char* CharacteristicsNames[] = {
+constexpr const char* kCharacteristicsNames[] = {
     "dontCare",
     "dontCare",
     "64bitCapable",
@@ -57,7 +57,7 @@ constexpr const char* CharacteristicsNames[] = {
 constexpr std::size_t kVirtualizationBit = 6;
 
 std::vector<std::string> SupportedVoltagesOf(std::uint8_t voltages) {
-    const Common::Dynamic_BitSet set = MakeBitSet(voltages, 8, SupportedVoltageNames);
+    const Common::Dynamic_BitSet set = MakeBitSet(voltages, 8, kSupportedVoltageNames);
     std::vector<std::string> names;
     for (std::size_t i = 0; i < set.names.size(); ++i) {
         if (set.Test(i)) {
@@ -85,7 +85,7 @@ std::optional<std::uint16_t> FamilyOf(const StructureReader& in) {
     if (family != 0xFF) {  // departs from the standard: 0xFE is a family, 0xFF refers to the second field
         return family;
     }
-    return CurrentVersionIsAtLeast(v2_6_0) ? std::optional(in.Word(0x28)) : std::nullopt;
+    return in.VersionIsAtLeast(v2_6_0) ? std::optional(in.Word(0x28)) : std::nullopt;
 }
 
 /// The count at `offset`; the wider one at `wideOffset` when it does not fit a byte.
@@ -94,7 +94,7 @@ std::optional<std::uint16_t> CountOf(const StructureReader& in, std::size_t offs
     if (count != 0xFF) {
         return ValueUnless(0, count);
     }
-    return CurrentVersionIsAtLeast(v3_0_0) ? ValueUnless(0, in.Word(wideOffset)) : std::nullopt;
+    return in.VersionIsAtLeast(v3_0_0) ? ValueUnless(0, in.Word(wideOffset)) : std::nullopt;
 }
 
 }  // namespace
@@ -111,41 +111,41 @@ void Type_4::DecodeFields(StructureReader& in, Type4Struct& record) {
     record.processorUpgrade = in.Byte(0x19);
     record.processorFamily = FamilyOf(in);
     if (record.processorFamily) {
-        record.processorFamilyName = ProcessorFamilyNames[*record.processorFamily];
+        record.processorFamilyName = kProcessorFamilyNames[*record.processorFamily];
     }
     record.currentSpeed = ValueUnless(0, in.Word(0x16));
     record.externalClock = ValueUnless(0, in.Word(0x12));
     record.socketPopulated = (in.Byte(0x18) & 0x40U) != 0;
-    record.statusText = StatusTexts[in.Byte(0x18) & 0x07U];
+    record.statusText = kStatusTexts[in.Byte(0x18) & 0x07U];
     record.processorVersion = in.String(0x10);
     record.processorManufacturer = in.String(0x07);
     record.socketDesignation = in.String(0x04);
-    record.processorTypeName = ProcessorTypeNames[in.Byte(0x05)];
-    record.processorUpgradeName = ProcessorUpgradeNames[in.Byte(0x19)];
+    record.processorTypeName = kProcessorTypeNames[in.Byte(0x05)];
+    record.processorUpgradeName = kProcessorUpgradeNames[in.Byte(0x19)];
 
-    if (CurrentVersionIsAtLeast(v2_1_0)) {
+    if (in.VersionIsAtLeast(v2_1_0)) {
         record.l1CacheHandle = ValueUnless(0xFFFF, in.Word(0x1A));
         record.l2CacheHandle = ValueUnless(0xFFFF, in.Word(0x1C));
         record.l3CacheHandle = ValueUnless(0xFFFF, in.Word(0x1E));
     }
-    if (CurrentVersionIsAtLeast(v2_3_0)) {
+    if (in.VersionIsAtLeast(v2_3_0)) {
         record.assetTag = in.String(0x21);
         record.partNumber = in.String(0x22);
         record.serialNumber = in.String(0x20);
     }
-    if (CurrentVersionIsAtLeast(v2_5_0)) {
+    if (in.VersionIsAtLeast(v2_5_0)) {
         record.coreCount = CountOf(in, 0x23, 0x2A);
         record.threadCount = CountOf(in, 0x25, 0x2E);
         record.coreEnabled = CountOf(in, 0x24, 0x2C);
         record.processorCharacteristics = in.Word(0x26);
-        record.characteristicsFlags = MakeBitSet(in.Word(0x26), 16, CharacteristicsNames);
+        record.characteristicsFlags = MakeBitSet(in.Word(0x26), 16, kCharacteristicsNames);
         // Departs from the standard: the capability is taken for the setting.
         record.virtualizationFirmwareEnabled = record.characteristicsFlags->Test(kVirtualizationBit);
     }
-    if (CurrentVersionIsAtLeast(v3_6_0)) {
+    if (in.VersionIsAtLeast(v3_6_0)) {
         record.threadEnabled = in.Word(0x30);  // departs from the standard: 0, an unknown count, is a count
     }
-    if (CurrentVersionIsAtLeast(v3_8_0)) {
+    if (in.VersionIsAtLeast(v3_8_0)) {
         record.socketType = in.String(0x32);
     }
 }

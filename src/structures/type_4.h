@@ -61,6 +61,10 @@ struct Type4Struct : StructureRecord {
 
 /// Decoder of Processor Information structures: one per processor socket.
 class Type_4 final : public Decoder<Type_4, Type4::Types::Type4Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::ProcessorInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

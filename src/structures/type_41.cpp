@@ -8,7 +8,7 @@ using Type41::Types::Type41Struct;
 
 namespace {
 
-constexpr auto OnboardDeviceTypeNames = ByteTable({
+constexpr auto kOnboardDeviceTypeNames = ByteTable({
     {0x03, "Video"},
     {0x04, "SCSI Controller"},
     {0x05, "Ethernet"},
@@ -38,7 +38,7 @@ void Type_41::DecodeFields(StructureReader& in, Type41Struct& record) {
     record.segmentGroupNumber = in.Word(0x07);
     record.isEnabled = (in.Byte(0x05) & 0x80) != 0;
     record.deviceTypeInstance = in.Byte(0x06);
-    record.deviceType = OnboardDeviceTypeNames[deviceType];
+    record.deviceType = kOnboardDeviceTypeNames[deviceType];
     record.referenceDesignation = in.String(0x04);
 }
 

@@ -27,6 +27,10 @@ struct Type41Struct : StructureRecord {
 
 /// Decoder of Onboard Devices Extended Information structures: one per device on the board.
 class Type_41 final : public Decoder<Type_41, Type41::Types::Type41Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::OnboardDevicesExtendedInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -30,6 +30,10 @@ struct Type43Struct : StructureRecord {
 
 /// Decoder of TPM Device structures: one per trusted platform module.
 class Type_43 final : public Decoder<Type_43, Type43::Types::Type43Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::TpmDevice;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -14,26 +14,26 @@ constexpr Gate kGates[] = {
 };
 
 // Departs from the standard: "Write Back" and "Write Through" are exchanged.
-constexpr auto OperationalModeTexts = ByteTable({
+constexpr auto kOperationalModeTexts = ByteTable({
     {0x00, "Write Back"},
     {0x01, "Write Through"},
     {0x02, "Varies with Memory Address"},
 });
 
-constexpr auto ErrorCorrectionTypeNames = ByteTable({
+constexpr auto kErrorCorrectionTypeNames = ByteTable({
     {0x03, "None"},
     {0x04, "Parity"},
     {0x05, "Single-bit ECC"},
     {0x06, "Multi-bit ECC"},
 });
 
-constexpr auto SystemCacheTypeNames = ByteTable({
+constexpr auto kSystemCacheTypeNames = ByteTable({
     {0x03, "Instruction"},
     {0x04, "Data"},
     {0x05, "Unified"},
 });
 
-constexpr auto AssociativityNames = ByteTable({
+constexpr auto kAssociativityNames = ByteTable({
     {0x03, "Direct Mapped"},
     {0x04, "2-way Set-Associative"},
     {0x05, "4-way Set-Associative"},
@@ -49,7 +49,7 @@ constexpr auto AssociativityNames = ByteTable({
 });
 
 // Departs from the standard: each name stands one bit lower.
-constexpr const char* SramTypeNames[] = {
+constexpr const char* kSramTypeNames[] = {
     "dontCare",
     "Non-Burst",
     "Burst",
@@ -67,7 +67,7 @@ void DecodeConfiguration(const StructureReader& in, Type7Struct& record) {
     record.cacheLevel = configuration & 0x07U;
     record.cacheLocation = location <= 1 ? std::optional(location) : std::nullopt;
     record.operationalMode = mode;
-    record.operationalModeText = OperationalModeTexts[mode];
+    record.operationalModeText = kOperationalModeTexts[mode];
 }
 
 /// The count without `unitBit`, which says whether it counts 64 kilobytes or one. Departs from the standard:
@@ -82,7 +82,7 @@ std::optional<std::uint64_t> SizeOf(const StructureReader& in, std::size_t offse
     std::uint32_t size = 0;
     if (count != 0xFFFF) {
         size = KilobytesOf(count, 0x8000U);
-    } else if (CurrentVersionIsAtLeast(v3_0_0)) {
+    } else if (in.VersionIsAtLeast(v3_0_0)) {
         // Departs from the standard: the wide fields came with 3.1.0, and before them 0xFFFF was a size.
         size = KilobytesOf(in.Dword(wideOffset), 0x80000000U);
     }
@@ -99,19 +99,19 @@ constinit const ParseRules Type_7::kRules = {
 void Type_7::DecodeFields(StructureReader& in, Type7Struct& record) {
     DecodeConfiguration(in, record);
     record.socketDesignation = in.String(0x04);
-    record.currentSramType = MakeBitSet(in.Word(0x0D), 16, SramTypeNames);
-    record.supportedSramType = MakeBitSet(in.Word(0x0B), 16, SramTypeNames);
+    record.currentSramType = MakeBitSet(in.Word(0x0D), 16, kSramTypeNames);
+    record.supportedSramType = MakeBitSet(in.Word(0x0B), 16, kSramTypeNames);
     record.maximumCacheSize = SizeOf(in, 0x07, 0x13);
     record.installedSize = SizeOf(in, 0x09, 0x17);
 
-    if (CurrentVersionIsAtLeast(v2_1_0)) {
+    if (in.VersionIsAtLeast(v2_1_0)) {
         record.cacheSpeed = ValueUnless(0, in.Byte(0x0F));
         record.errorCorrectionType = in.Byte(0x10);
-        record.errorCorrectionTypeName = ErrorCorrectionTypeNames[in.Byte(0x10)];
+        record.errorCorrectionTypeName = kErrorCorrectionTypeNames[in.Byte(0x10)];
         record.systemCacheType = in.Byte(0x11);
-        record.systemCacheTypeName = SystemCacheTypeNames[in.Byte(0x11)];
+        record.systemCacheTypeName = kSystemCacheTypeNames[in.Byte(0x11)];
         record.associativity = in.Byte(0x12);
-        record.associativityName = AssociativityNames[in.Byte(0x12)];
+        record.associativityName = kAssociativityNames[in.Byte(0x12)];
     }
 }
 

@@ -38,6 +38,10 @@ struct Type7Struct : StructureRecord {
 
 /// Decoder of Cache Information structures: one per cache level of a processor.
 class Type_7 final : public Decoder<Type_7, Type7::Types::Type7Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::CacheInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

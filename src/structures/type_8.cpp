@@ -18,9 +18,9 @@ void Type_8::DecodeFields(StructureReader& in, Type8Struct& record) {
     record.portType = in.Byte(0x08);
     record.internalReferenceDesignator = in.String(0x04);
     record.externalReferenceDesignator = in.String(0x06);
-    record.portTypeName = PortTypeNames[in.Byte(0x08)];
-    record.internalConnectorTypeName = ConnectorTypeNames[in.Byte(0x05)];
-    record.externalConnectorTypeName = ConnectorTypeNames[in.Byte(0x07)];
+    record.portTypeName = kPortTypeNames[in.Byte(0x08)];
+    record.internalConnectorTypeName = kConnectorTypeNames[in.Byte(0x05)];
+    record.externalConnectorTypeName = kConnectorTypeNames[in.Byte(0x07)];
 }
 
 }  // namespace SMBIOS::Structures

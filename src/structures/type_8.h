@@ -27,6 +27,10 @@ struct Type8Struct : StructureRecord {
 
 /// Decoder of Port Connector Information structures: one per port of the system.
 class Type_8 final : public Decoder<Type_8, Type8::Types::Type8Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::PortConnectorInformation;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -17,7 +17,7 @@ constexpr Gate kGates[] = {
     {LengthAbove(0x11), VersionBelow(v3_2_0), "v3.2.0 structure or later in a v3.1.1 BIOS or older"},
 };
 
-constexpr auto DataBusWidthNames = ByteTable({
+constexpr auto kDataBusWidthNames = ByteTable({
     {0x03, "8 bit"},
     {0x04, "16 bit"},
     {0x05, "32 bit"},
@@ -32,26 +32,26 @@ constexpr auto DataBusWidthNames = ByteTable({
     {0x0E, "32x or x32"},
 });
 
-constexpr auto CurrentUsageNames = ByteTable({
+constexpr auto kCurrentUsageNames = ByteTable({
     {0x03, "Available"},
     {0x04, "In Use"},
     {0x05, "Unavailable"},
 });
 
-constexpr auto SlotLengthNames = ByteTable({
+constexpr auto kSlotLengthNames = ByteTable({
     {0x03, "Short Length"},
     {0x04, "Long Length"},
     {0x05, "2.5\" drive form factor"},
     {0x06, "3.5\" drive form factor"},
 });
 
-constexpr auto SlotHeightNames = ByteTable({
+constexpr auto kSlotHeightNames = ByteTable({
     {0x00, "Not Applicable"},
     {0x03, "Full Height"},
     {0x04, "Low-profile"},
 });
 
-constexpr const char* SlotCharacteristics1Names[] = {
+constexpr const char* kSlotCharacteristics1Names[] = {
     "dontCare",
     "doesProvide__5_0V",
     "doesProvide__3_3V",
@@ -62,7 +62,7 @@ constexpr const char* SlotCharacteristics1Names[] = {
     "isModemRingResumeSupported",
 };
 
-constexpr const char* SlotCharacteristics2Names[] = {
+constexpr const char* kSlotCharacteristics2Names[] = {
     "isPMESupported",
     "isHotPlugSupported",
     "isSMBusSignalSupported",
@@ -116,7 +116,7 @@ void DecodeTail(const StructureReader& in, std::size_t offset, Type9Struct& reco
     }
     if (size >= 5) {
         record.slotHeight = in.Byte(offset + 4);
-        record.slotHeightName = SlotHeightNames[in.Byte(offset + 4)];
+        record.slotHeightName = kSlotHeightNames[in.Byte(offset + 4)];
     }
     if (size >= 3) {
         // Departs from the standard: 0, no pitch given, is a pitch. Of one cut short the low byte counts.
@@ -124,7 +124,7 @@ void DecodeTail(const StructureReader& in, std::size_t offset, Type9Struct& reco
     }
     if (size >= 2) {
         record.slotPhysicalWidth = in.Byte(offset + 1);
-        record.slotPhysicalWidthName = DataBusWidthNames[in.Byte(offset + 1)];
+        record.slotPhysicalWidthName = kDataBusWidthNames[in.Byte(offset + 1)];
     }
     record.slotInformation = in.Byte(offset);
 }
@@ -135,7 +135,7 @@ void DecodePeerGroupsAndTail(const StructureReader& in, Type9Struct& record) {
     }
     const std::size_t end = kPeerGroupsOffset + kPeerGroupSize * in.Byte(0x12);
     record.peerGroups = PeerGroupsUpTo(in, end);
-    if (CurrentVersionIsAtLeast(v3_4_0)) {
+    if (in.VersionIsAtLeast(v3_4_0)) {
         DecodeTail(in, end, record);
     }
 }
@@ -154,24 +154,24 @@ void Type_9::DecodeFields(StructureReader& in, Type9Struct& record) {
     record.currentUsage = in.Byte(0x07);
     record.slotDataBusWidth = in.Byte(0x06);
     record.slotDesignation = in.String(0x04);
-    record.slotTypeName = SlotTypeNames[in.Byte(0x05)];
-    record.slotLengthName = SlotLengthNames[in.Byte(0x08)];
-    record.currentUsageName = CurrentUsageNames[in.Byte(0x07)];
-    record.slotDataBusWidthName = DataBusWidthNames[in.Byte(0x06)];
-    record.slotCharacteristics1 = MakeBitSet(in.Byte(0x0B), 8, SlotCharacteristics1Names);
+    record.slotTypeName = kSlotTypeNames[in.Byte(0x05)];
+    record.slotLengthName = kSlotLengthNames[in.Byte(0x08)];
+    record.currentUsageName = kCurrentUsageNames[in.Byte(0x07)];
+    record.slotDataBusWidthName = kDataBusWidthNames[in.Byte(0x06)];
+    record.slotCharacteristics1 = MakeBitSet(in.Byte(0x0B), 8, kSlotCharacteristics1Names);
 
-    if (CurrentVersionIsAtLeast(v2_1_0)) {
-        record.slotCharacteristics2 = MakeBitSet(in.Byte(0x0C), 8, SlotCharacteristics2Names);
+    if (in.VersionIsAtLeast(v2_1_0)) {
+        record.slotCharacteristics2 = MakeBitSet(in.Byte(0x0C), 8, kSlotCharacteristics2Names);
     }
-    if (CurrentVersionIsAtLeast(v2_6_0)) {
+    if (in.VersionIsAtLeast(v2_6_0)) {
         record.segmentGroupNumber = in.Word(0x0D);
         record.busNumber = in.Byte(0x0F);
         record.deviceNumber = DeviceNumberOf(in.Byte(0x10));
         record.functionNumber = FunctionNumberOf(in.Byte(0x10));
         record.dataBusWidth = in.Byte(0x11);  // departs from the standard: the field came with 3.2.0
-        record.dataBusWidthName = DataBusWidthNames[in.Byte(0x11)];
+        record.dataBusWidthName = kDataBusWidthNames[in.Byte(0x11)];
     }
-    if (CurrentVersionIsAtLeast(v3_2_0)) {
+    if (in.VersionIsAtLeast(v3_2_0)) {
         DecodePeerGroupsAndTail(in, record);
     }
 }

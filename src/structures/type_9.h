@@ -56,6 +56,10 @@ struct Type9Struct : StructureRecord {
 
 /// Decoder of System Slots structures: one per slot of the system.
 class Type_9 final : public Decoder<Type_9, Type9::Types::Type9Struct> {
+public:
+    static constexpr StructureTypes kKey = StructureTypes::SystemSlots;
+    using Decoder::Decoder;
+
 private:
     friend Decoder;
     static const ParseRules kRules;

@@ -25,6 +25,9 @@ struct TypeUnknownStruct {
 /// Decoder of every type that has none of its own: keeps type, handle, strings and raw bytes.
 class UnknownType final : public Decoder<UnknownType, TypeUnknown::Types::TypeUnknownStruct> {
 public:
+    static constexpr StructureTypes kKey = StructureTypes::Unknown;
+    using Decoder::Decoder;
+
     void Parse(const std::vector<std::uint8_t>& formattedBytes) override;
 
 private:

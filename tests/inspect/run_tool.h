@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "smbios-inspect/inspect.h"
+#include "smbios-inspect/command_line/inspect.h"
 
 namespace SMBIOS::Tests {
 

@@ -8,7 +8,7 @@
 
 #include "manager/smbios_manager.h"
 #include "platform/saved_table.h"
-#include "structures/all_decoders.h"
+#include "structures/decoded_types.h"
 #include "tests/support/decode.h"
 #include "tests/support/fake_platform.h"
 
@@ -69,47 +69,15 @@ const std::set<std::string> kDocumentedErrors = {
     "Unsupported BIOS structure.",
 };
 
-template <class Type>
-void TakeRecord(const BaseStructure& structure, std::optional<StructureRecord>& record) {
-    if (const auto* const decoder = dynamic_cast<const Type*>(&structure)) {
-        record = *decoder->GetRecord();
-    }
-}
-
 /// What every record has, of a structure that has a decoder of its own; none for any other.
-template <class... Types>
-std::optional<StructureRecord> RecordOfAny(const BaseStructure& structure) {
-    std::optional<StructureRecord> record;
-    (TakeRecord<Types>(structure, record), ...);
-    return record;
-}
-
 std::optional<StructureRecord> RecordOf(const BaseStructure& structure) {
-    return RecordOfAny<Type_0,
-                       Type_1,
-                       Type_2,
-                       Type_3,
-                       Type_4,
-                       Type_7,
-                       Type_8,
-                       Type_9,
-                       Type_11,
-                       Type_16,
-                       Type_17,
-                       Type_18,
-                       Type_19,
-                       Type_20,
-                       Type_21,
-                       Type_22,
-                       Type_26,
-                       Type_27,
-                       Type_28,
-                       Type_29,
-                       Type_32,
-                       Type_33,
-                       Type_39,
-                       Type_41,
-                       Type_43>(structure);
+    std::optional<StructureRecord> record;
+    ForEachType(DecodedTypes(), [&]<class Type>() {
+        if (const auto* const decoder = dynamic_cast<const Type*>(&structure)) {
+            record = *decoder->GetRecord();
+        }
+    });
+    return record;
 }
 
 class CapturedTable : public testing::TestWithParam<Capture> {

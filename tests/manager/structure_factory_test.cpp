@@ -4,7 +4,8 @@
 
 #include <set>
 
-#include "structures/all_decoders.h"
+#include "structures/decoded_types.h"
+#include "tests/support/decode.h"
 
 namespace SMBIOS::Tests {
 namespace {
@@ -36,31 +37,28 @@ TEST(StructureFactory, ANewDecoderHasNoHandle) {
 }
 
 TEST(StructureFactory, EverySupportedTypeGetsItsOwnDecoder) {
-    EXPECT_TRUE(Makes<Structures::Type_0>(0, 0));
-    EXPECT_TRUE(Makes<Structures::Type_1>(1, 1));
-    EXPECT_TRUE(Makes<Structures::Type_2>(2, 2));
-    EXPECT_TRUE(Makes<Structures::Type_3>(3, 3));
-    EXPECT_TRUE(Makes<Structures::Type_4>(4, 4));
-    EXPECT_TRUE(Makes<Structures::Type_7>(7, 7));
-    EXPECT_TRUE(Makes<Structures::Type_8>(8, 8));
-    EXPECT_TRUE(Makes<Structures::Type_9>(9, 9));
-    EXPECT_TRUE(Makes<Structures::Type_11>(11, 11));
-    EXPECT_TRUE(Makes<Structures::Type_16>(16, 16));
-    EXPECT_TRUE(Makes<Structures::Type_17>(17, 17));
-    EXPECT_TRUE(Makes<Structures::Type_18>(18, 18));
-    EXPECT_TRUE(Makes<Structures::Type_19>(19, 19));
-    EXPECT_TRUE(Makes<Structures::Type_20>(20, 20));
-    EXPECT_TRUE(Makes<Structures::Type_21>(21, 21));
-    EXPECT_TRUE(Makes<Structures::Type_22>(22, 22));
-    EXPECT_TRUE(Makes<Structures::Type_26>(26, 26));
-    EXPECT_TRUE(Makes<Structures::Type_27>(27, 27));
-    EXPECT_TRUE(Makes<Structures::Type_28>(28, 28));
-    EXPECT_TRUE(Makes<Structures::Type_29>(29, 29));
-    EXPECT_TRUE(Makes<Structures::Type_32>(32, 32));
-    EXPECT_TRUE(Makes<Structures::Type_33>(33, 33));
-    EXPECT_TRUE(Makes<Structures::Type_39>(39, 39));
-    EXPECT_TRUE(Makes<Structures::Type_41>(41, 41));
-    EXPECT_TRUE(Makes<Structures::Type_43>(43, 43));
+    Structures::ForEachType(Structures::DecodedTypes(), []<class Type>() {
+        const int key = static_cast<int>(Type::kKey);
+        EXPECT_TRUE(Makes<Type>(key, key)) << "type " << key;
+    });
+}
+
+TEST(StructureFactory, ADecoderIsMadeForTheVersionItIsGiven) {
+    // A memory device of 28 bytes is refused in a table of 2.3.0 alone.
+    const StructureBuilder device(17, 0x1C);
+    for (const auto& [version, handle] : {std::pair(v2_3_0, 0), std::pair(v2_4_0, 0x1234)}) {
+        const auto decoder = StructureFactory::CreateTablePtr(StructureTypes::MemoryDevice, version).second;
+        decoder->Process(device.FormattedBytes(), {});
+        EXPECT_EQ(decoder->GetHandle(), handle);
+    }
+}
+
+TEST(StructureFactory, WithoutAVersionADecoderIsMadeForTheProcesssTable) {
+    const StructureBuilder device(17, 0x1C);
+    Manager::currentVersionIndex = v2_4_0;
+    const auto decoder = StructureFactory::CreateTablePtr(StructureTypes::MemoryDevice).second;
+    decoder->Process(device.FormattedBytes(), {});
+    EXPECT_EQ(decoder->GetHandle(), 0x1234);
 }
 
 TEST(StructureFactory, EveryOtherTypeGetsUnknownType) {

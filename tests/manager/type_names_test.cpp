@@ -8,8 +8,8 @@
 namespace SMBIOS::Tests {
 namespace {
 
-using Manager::BoardTypeNames;
-using Manager::StructureTypeNames;
+using Manager::kBoardTypeNames;
+using Manager::kStructureTypeNames;
 
 TEST(StructureTypeNames, EveryTypeUpTo48HasItsName) {
     const char* const names[] = {
@@ -65,13 +65,13 @@ TEST(StructureTypeNames, EveryTypeUpTo48HasItsName) {
     };
     ASSERT_EQ(std::size(names), 49U);
     for (std::size_t type = 0; type < std::size(names); ++type) {
-        EXPECT_EQ(StructureTypeNames[static_cast<std::uint8_t>(type)], names[type]) << "type " << type;
+        EXPECT_EQ(kStructureTypeNames[static_cast<std::uint8_t>(type)], names[type]) << "type " << type;
     }
 }
 
 TEST(StructureTypeNames, TypesFrom49OnHaveNone) {
     for (int type = 49; type <= 0xFF; ++type) {
-        EXPECT_FALSE(StructureTypeNames.Find(static_cast<std::uint8_t>(type))) << "type " << type;
+        EXPECT_FALSE(kStructureTypeNames.Find(static_cast<std::uint8_t>(type))) << "type " << type;
     }
 }
 
@@ -91,13 +91,13 @@ TEST(BoardTypeNames, Types3To13HaveTheirNames) {
     };
     ASSERT_EQ(std::size(names), 11U);
     for (std::size_t row = 0; row < std::size(names); ++row) {
-        EXPECT_EQ(BoardTypeNames[static_cast<std::uint8_t>(3 + row)], names[row]) << "type " << 3 + row;
+        EXPECT_EQ(kBoardTypeNames[static_cast<std::uint8_t>(3 + row)], names[row]) << "type " << 3 + row;
     }
 }
 
 TEST(BoardTypeNames, Types0To2AndFrom14OnHaveNone) {
     for (int type = 0; type <= 0xFF; ++type) {
-        EXPECT_EQ(BoardTypeNames.Find(static_cast<std::uint8_t>(type)).has_value(), 3 <= type && type <= 13)
+        EXPECT_EQ(kBoardTypeNames.Find(static_cast<std::uint8_t>(type)).has_value(), 3 <= type && type <= 13)
             << "type " << type;
     }
 }

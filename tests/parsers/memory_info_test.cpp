@@ -291,6 +291,7 @@ TEST_F(MemoryInfoTest, TypeDetailFlagsWithoutTheWordGive65535) {
     Load({FullDevice("S")});
     const auto structures = SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice);
     std::dynamic_pointer_cast<Type_17>(structures.at(0))->GetRecord()->typeDetail.reset();
+    info_.RetrieveInfo();
     EXPECT_EQ(info_.GetBitsetTypeDetail(0).typeDetailWord, 65535);
 }
 
@@ -298,6 +299,7 @@ TEST_F(MemoryInfoTest, ATypeDetailThatIsTooNarrowThrows) {
     Load({FullDevice("S")});
     const auto structures = SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice);
     std::dynamic_pointer_cast<Type_17>(structures.at(0))->GetRecord()->typeDetailFlags->Assign(0, 14);
+    info_.RetrieveInfo();
     try {
         (void)info_.GetBitsetTypeDetail(0);
         FAIL() << "nothing thrown";

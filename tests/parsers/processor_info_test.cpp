@@ -308,6 +308,7 @@ TEST_F(ProcessorInfoTest, EachCharacteristicFollowsItsOwnBit) {
 TEST_F(ProcessorInfoTest, CharacteristicsThatAreTooNarrowThrow) {
     Load({FullProcessor(kId)});
     FirstRecord()->characteristicsFlags->Assign(0, 9);
+    info_.RetrieveInfo();
     try {
         (void)info_.GetProcessorCharacteristics(0);
         FAIL() << "nothing thrown";
@@ -319,6 +320,7 @@ TEST_F(ProcessorInfoTest, CharacteristicsThatAreTooNarrowThrow) {
 TEST_F(ProcessorInfoTest, CharacteristicsNeedBothFlagsAndWord) {
     Load({FullProcessor(kId)});
     FirstRecord()->processorCharacteristics.reset();
+    info_.RetrieveInfo();
     EXPECT_FALSE(info_.GetProcessorCharacteristics(0).capable64bit.isSet);
 }
 

@@ -27,6 +27,11 @@ struct ProbeRecord : StructureRecord {
 template <StringSetRule rule>
 class FailingType final : public Decoder<FailingType<rule>, ProbeRecord> {
     friend Decoder<FailingType<rule>, ProbeRecord>;
+
+public:
+    using Decoder<FailingType<rule>, ProbeRecord>::Decoder;
+
+private:
     static constexpr ParseRules kRules = {.strings = rule};
     static void DecodeFields(StructureReader& in, ProbeRecord& record) {
         record.first = in.Byte(0x05);
@@ -55,8 +60,8 @@ const Bytes kGood = {99, 6, 0x34, 0x12, 0, 7};
 const Bytes kFailing = {99, 6, 0x34, 0x12, 1, 7};
 
 TEST(Decoder, HasNoHandleBeforeItIsGivenAStructure) {
-    EXPECT_EQ(KeepingType().GetHandle(), 65535);
-    EXPECT_EQ(KeepingType().GetRecord(), nullptr);
+    EXPECT_EQ(KeepingType(v2_0_0).GetHandle(), 65535);
+    EXPECT_EQ(KeepingType(v2_0_0).GetRecord(), nullptr);
 }
 
 TEST(Decoder, StoresHandleFieldsStringsAndRawBytes) {
@@ -69,13 +74,13 @@ TEST(Decoder, StoresHandleFieldsStringsAndRawBytes) {
 }
 
 TEST(Decoder, GetHandleGivesTheRecordsHandle) {
-    KeepingType decoder;
+    KeepingType decoder(v2_0_0);
     decoder.Process(kGood, {});
     EXPECT_EQ(decoder.GetHandle(), 0x1234);
 }
 
 TEST(Decoder, AThreeByteAreaIsMalformedWithHandleZero) {
-    KeepingType decoder;
+    KeepingType decoder(v2_0_0);
     decoder.Process({99, 3, 0x34}, {});
     EXPECT_EQ(decoder.GetRecord()->error, kMalformed);
     EXPECT_EQ(decoder.GetHandle(), 0);
@@ -88,13 +93,13 @@ TEST(Decoder, AnEmptyAreaIsAnInvalidPointer) {
 }
 
 TEST(Decoder, ParseThrowsWhatProcessRecords) {
-    KeepingType decoder;
+    KeepingType decoder(v2_0_0);
     EXPECT_THROW(decoder.Parse({}), std::runtime_error);
     EXPECT_THROW(decoder.Parse({99, 3, 0x34}), std::exception);
 }
 
 TEST(Decoder, ParseMakesAFreshRecordEachTime) {
-    KeepingType decoder;
+    KeepingType decoder(v2_0_0);
     decoder.Process(kFailing, {"text"});
     const auto earlier = decoder.GetRecord();
     decoder.Parse(kGood);
@@ -164,7 +169,7 @@ TEST(UnknownType, AnEmptyAreaIsMalformedOfType0) {
 }
 
 TEST(UnknownType, HasNoHandleBeforeItIsGivenAStructure) {
-    EXPECT_EQ(UnknownType().GetHandle(), 65535);
+    EXPECT_EQ(UnknownType(v2_0_0).GetHandle(), 65535);
 }
 
 }  // namespace

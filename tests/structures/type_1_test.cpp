@@ -81,7 +81,7 @@ TEST(Type1, TablesBelow240RefuseLengthsOf26OrMore) {
 }
 
 TEST(Type1, TheLastGateEndsBelowTheLastReservedVersion) {
-    const AcceptanceCase cases[] = {{26, reserved6, kNewerThan234}, {26, reserved7, ""}};
+    const AcceptanceCase cases[] = {{26, v2_3_0, kNewerThan234}, {26, v2_4_0, ""}};
     ExpectAcceptance<Type_1>(1, cases);
 }
 

@@ -36,7 +36,7 @@ TEST(Type39, NeedsATableAbove230) {
     const AcceptanceCase cases[] = {
         {0x16, v2_2_0, kMalformed},
         {0x16, v2_3_0, kMalformed},
-        {0x16, reserved4, ""},
+        {0x16, v2_4_0, ""},
         {0x16, v2_4_0, ""},
         {0x16, v2_5_0, ""},
         {0x16, v3_8_0, ""},

@@ -211,9 +211,8 @@ auto DecodeVoltage(std::uint8_t voltage) {
 
 /// The voltage byte of the caller's own bytes after they were decoded.
 std::uint8_t VoltageAfterDecoding(SmbiosVersionIndex version, const StructureBuilder& processor) {
-    Manager::currentVersionIndex = version;
     std::vector<std::uint8_t> formattedBytes = processor.FormattedBytes();
-    Type_4 decoder;
+    Type_4 decoder(version);
     decoder.Process(formattedBytes, {});
     return formattedBytes.at(0x11);
 }

@@ -29,8 +29,7 @@ template <class Type>
 auto DecodeBytes(Manager::SmbiosVersionIndex version,
                  std::vector<std::uint8_t> formattedBytes,
                  const std::vector<std::string>& strings = {}) {
-    Manager::currentVersionIndex = version;
-    Type decoder;
+    Type decoder(version);
     decoder.Process(formattedBytes, strings);
     return decoder.GetRecord();
 }

@@ -1,0 +1,171 @@
+#include "smbios-inspect/command_line/options.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "tests/inspect/run_tool.h"
+
+namespace SMBIOS::Inspect {
+namespace {
+
+using Words = std::vector<std::string_view>;
+
+std::string ErrorOf(const Words& words) {
+    try {
+        (void)ParseOptions(words);
+    } catch (const UsageError& error) {
+        return error.what();
+    }
+    return "none";
+}
+
+TEST(Options, WithoutACommandTheSummaryIsMeant) {
+    const Options options = ParseOptions({});
+    EXPECT_EQ(options.command, Command::summary);
+    EXPECT_EQ(options.from, std::nullopt);
+    EXPECT_FALSE(options.json);
+    EXPECT_FALSE(options.force);
+    EXPECT_TRUE(options.types.empty());
+    EXPECT_EQ(options.target, "");
+}
+
+TEST(Options, NameEveryCommand) {
+    EXPECT_EQ(ParseOptions(Words{"summary"}).command, Command::summary);
+    EXPECT_EQ(ParseOptions(Words{"memory"}).command, Command::memory);
+    EXPECT_EQ(ParseOptions(Words{"processors"}).command, Command::processors);
+    EXPECT_EQ(ParseOptions(Words{"structures"}).command, Command::structures);
+    EXPECT_EQ(ParseOptions(Words{"save", "file"}).command, Command::save);
+}
+
+TEST(Options, NameTheFileToSaveTo) {
+    EXPECT_EQ(ParseOptions(Words{"save", "file"}).target, "file");
+}
+
+TEST(Options, TakeTheFileToReadInBothSpellings) {
+    EXPECT_EQ(ParseOptions(Words{"memory", "--from", "file"}).from, "file");
+    EXPECT_EQ(ParseOptions(Words{"memory", "--from=file"}).from, "file");
+    EXPECT_EQ(ParseOptions(Words{"--from=a=b"}).from, "a=b");
+}
+
+TEST(Options, TakeTheFileToReadForEveryCommand) {
+    for (const Words& words : {Words{"--from=x"},
+                               Words{"summary", "--from=x"},
+                               Words{"memory", "--from=x"},
+                               Words{"processors", "--from=x"},
+                               Words{"structures", "--from=x"},
+                               Words{"save", "file", "--from=x"}}) {
+        EXPECT_EQ(ParseOptions(words).from, "x") << words[0];
+    }
+}
+
+TEST(Options, ADashIsStandardInput) {
+    EXPECT_EQ(ParseOptions(Words{"--from", "-"}).from, "-");
+    EXPECT_EQ(ParseOptions(Words{"--from=-"}).from, "-");
+}
+
+TEST(Options, TakeTypesInBothSpellingsAndSeveralTimes) {
+    const Options options =
+        ParseOptions(Words{"structures", "--type", "17", "--type=0", "--type=255", "--type", "17"});
+    EXPECT_EQ(options.types, (std::set<std::uint8_t>{0, 17, 255}));
+}
+
+TEST(Options, TakeJsonWhereThereIsSome) {
+    for (const std::string_view command : {"memory", "processors", "structures"}) {
+        EXPECT_TRUE(ParseOptions(Words{command, "--json"}).json) << command;
+    }
+}
+
+TEST(Options, TakeForceForSave) {
+    EXPECT_TRUE(ParseOptions(Words{"save", "--force", "file"}).force);
+}
+
+TEST(Options, StandInAnyOrder) {
+    const Options options = ParseOptions(Words{"--from", "in", "--force", "save", "out"});
+    EXPECT_EQ(options.command, Command::save);
+    EXPECT_EQ(options.from, "in");
+    EXPECT_EQ(options.target, "out");
+    EXPECT_TRUE(options.force);
+}
+
+TEST(Options, AskForHelpInBothSpellingsWhateverElseIsAskedFor) {
+    EXPECT_EQ(ParseOptions(Words{"--help"}).command, Command::help);
+    EXPECT_EQ(ParseOptions(Words{"-h"}).command, Command::help);
+    EXPECT_EQ(ParseOptions(Words{"nonsense", "--help"}).command, Command::help);
+}
+
+TEST(Options, AskForTheVersion) {
+    EXPECT_EQ(ParseOptions(Words{"--version"}).command, Command::version);
+}
+
+TEST(Options, AnUnknownCommandIsAnError) {
+    EXPECT_EQ(ErrorOf({"reboot"}), "unknown command 'reboot'");
+    EXPECT_EQ(ErrorOf({""}), "unknown command ''");
+}
+
+TEST(Options, AnUnknownOptionIsAnError) {
+    EXPECT_EQ(ErrorOf({"--colour"}), "unknown option --colour");
+    EXPECT_EQ(ErrorOf({"-x"}), "unknown option -x");
+    EXPECT_EQ(ErrorOf({"-"}), "unknown option -");
+    EXPECT_EQ(ErrorOf({"memory", "--json=yes"}), "unknown option --json=yes");
+    EXPECT_EQ(ErrorOf({"--fromfile"}), "unknown option --fromfile");
+}
+
+TEST(Options, AnOptionWithoutItsValueIsAnError) {
+    EXPECT_EQ(ErrorOf({"--from"}), "option --from needs a value");
+    EXPECT_EQ(ErrorOf({"--from="}), "option --from needs a value");
+    EXPECT_EQ(ErrorOf({"--from", ""}), "option --from needs a value");
+    EXPECT_EQ(ErrorOf({"structures", "--type"}), "option --type needs a value");
+}
+
+TEST(Options, ATypeThatIsNoByteIsAnError) {
+    for (const std::string type : {"256", "-1", "0x11", "17 ", "x", "1,2"}) {
+        EXPECT_EQ(ErrorOf({"structures", "--type", type}),
+                  "'" + type + "' is no structure type: a number from 0 to 255");
+    }
+}
+
+TEST(Options, AnOptionOfAnotherCommandIsAnError) {
+    EXPECT_EQ(ErrorOf({"--json"}), "summary does not take --json");
+    EXPECT_EQ(ErrorOf({"summary", "--json"}), "summary does not take --json");
+    EXPECT_EQ(ErrorOf({"save", "file", "--json"}), "save does not take --json");
+    EXPECT_EQ(ErrorOf({"memory", "--type=17"}), "memory does not take --type");
+    EXPECT_EQ(ErrorOf({"structures", "--force"}), "structures does not take --force");
+}
+
+TEST(Options, SaveWithoutAFileIsAnError) {
+    EXPECT_EQ(ErrorOf({"save"}), "save needs the file to write");
+    EXPECT_EQ(ErrorOf({"save", ""}), "save needs the file to write");
+}
+
+TEST(Options, AWordTooManyIsAnError) {
+    EXPECT_EQ(ErrorOf({"memory", "file"}), "unexpected argument 'file'");
+    EXPECT_EQ(ErrorOf({"save", "one", "two"}), "unexpected argument 'two'");
+}
+
+TEST(Options, TheUsageTextNamesEveryCommandAndOption) {
+    for (const std::string_view word : {"summary",
+                                        "memory",
+                                        "processors",
+                                        "structures",
+                                        "save",
+                                        "--from",
+                                        "--json",
+                                        "--type",
+                                        "--force",
+                                        "--help",
+                                        "--version"}) {
+        EXPECT_NE(UsageText().find(word), std::string_view::npos) << word;
+    }
+}
+
+TEST(Options, TheUsageTextFitsATerminal) {
+    for (const std::string& line : Tests::LinesOf(std::string(UsageText()))) {
+        EXPECT_LE(line.size(), 80U) << line;
+    }
+}
+
+}  // namespace
+}  // namespace SMBIOS::Inspect

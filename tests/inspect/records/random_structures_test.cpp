@@ -1,0 +1,222 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <random>
+#include <span>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "manager/smbios_version.h"
+#include "manager/structure_factory.h"
+#include "manager/structure_walk.h"
+#include "smbios-inspect/output/json.h"
+#include "smbios-inspect/records/filed_structure.h"
+#include "structures/decoded_types.h"
+
+// Whatever the firmware writes, the output stays valid and harmless. Below the manager, which loads only
+// once.
+namespace SMBIOS::Tests {
+namespace {
+
+using Inspect::FiledStructure;
+using Inspect::Json;
+using Inspect::OutputStyle;
+using Manager::SmbiosVersionIndex;
+using Manager::Types::StructureTypes;
+
+constexpr int kTables = 1500;
+
+/// Removes one UTF-8 character from the front; false when there is none.
+bool TakeCharacter(std::string_view& text) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    constexpr std::uint32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
+    const unsigned first = byte(0);
+    const std::size_t following = first < 0x80 ? 0 : first >> 5 == 6 ? 1 : first >> 4 == 14 ? 2 : 3;
+    if (text.size() <= following || (following == 3 && first >> 3 != 30)) {
+        return false;
+    }
+    std::uint32_t code = following == 0 ? first : first & (0x3FU >> following);
+    for (std::size_t i = 1; i <= following; ++i) {
+        if ((byte(i) & 0xC0U) != 0x80) {
+            return false;
+        }
+        code = code << 6 | (byte(i) & 0x3FU);
+    }
+    text.remove_prefix(following + 1);
+    return code >= kLeast[following] && code <= 0x10FFFF && !(0xD800 <= code && code <= 0xDFFF);
+}
+
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        if (!TakeCharacter(text)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// A control byte of ASCII other than a line end.
+bool HasControlByte(std::string_view text) {
+    return std::ranges::any_of(text, [](char character) {
+        const auto byte = static_cast<unsigned char>(character);
+        return (byte < 0x20 && byte != '\n') || byte == 0x7F;
+    });
+}
+
+/// Makes tables, the same ones in every run.
+class Random {
+public:
+    explicit Random(unsigned seed) : engine_(seed) {}
+
+    std::size_t Below(std::size_t limit) { return engine_() % limit; }
+    std::uint8_t Byte() { return static_cast<std::uint8_t>(Below(256)); }
+
+    /// Likelier one of a type that has a decoder.
+    std::uint8_t Type() {
+        const auto type = [this]<class... Types>(Structures::TypeList<Types...>) {
+            constexpr StructureTypes kKeys[] = {Types::kKey...};
+            return static_cast<std::uint8_t>(kKeys[Below(std::size(kKeys))]);
+        };
+        return Below(4) == 0 ? Byte() : type(Structures::DecodedTypes());
+    }
+
+    std::vector<std::uint8_t> Bytes(std::size_t count) {
+        std::vector<std::uint8_t> bytes(count);
+        std::ranges::generate(bytes, [&] { return Byte(); });
+        return bytes;
+    }
+
+    /// A piece of text: letters, control bytes, whole and broken UTF-8.
+    std::string Text() {
+        static constexpr std::string_view kPieces[] = {
+            "text",
+            " ",
+            "\x1B[31m",
+            "\n",
+            "\r",
+            "\t",
+            "\x7F",
+            "\xC2\x9B",
+            "\xE2\x82\xAC",
+            "\xE2\x82",
+            "\xFF",
+            "\xC0\x80",
+            "\xED\xA0\x80",
+            "\xF4\x90\x80\x80",
+            "\xF0\x9F\x98\x80",
+            "\x80",
+            "\"\\",
+            "\x01",
+        };
+        std::string text;
+        for (std::size_t i = Below(8); i > 0; --i) {
+            text += kPieces[Below(std::size(kPieces))];
+        }
+        return text;
+    }
+
+    SmbiosVersionIndex Version() {
+        using Manager::versionMap;
+        const std::size_t newest = std::size(versionMap) - 1;
+        return versionMap[Below(2) == 0 ? newest : Below(newest)].index;
+    }
+
+private:
+    std::mt19937 engine_;
+};
+
+/// A structure whose header is right and whose fields may refer to its strings.
+Manager::RawStructure WellFormedStructure(Random& random) {
+    Manager::RawStructure structure;
+    structure.type = random.Type();
+    structure.formattedBytes = random.Bytes(4 + random.Below(252));
+    structure.formattedBytes[0] = structure.type;
+    structure.formattedBytes[1] = static_cast<std::uint8_t>(structure.formattedBytes.size());
+    for (std::uint8_t& byte : std::span(structure.formattedBytes).subspan(4)) {
+        byte = random.Below(2) == 0 ? byte : static_cast<std::uint8_t>(byte % 8);
+    }
+    for (std::size_t i = random.Below(8); i > 0; --i) {
+        structure.strings.push_back(random.Text());
+    }
+    return structure;
+}
+
+FiledStructure Decoded(const Manager::RawStructure& structure, SmbiosVersionIndex version) {
+    auto [key, decoder] =
+        Structures::StructureFactory::CreateTablePtr(StructureTypes{structure.type}, version);
+    decoder->Process(structure.formattedBytes, structure.strings);
+    return {key, std::move(decoder)};
+}
+
+void ExpectValidJson(const std::vector<FiledStructure>& structures) {
+    Json list = Json::array();
+    for (const FiledStructure& structure : structures) {
+        list.push_back(Inspect::StructureToJson(structure));
+    }
+    std::ostringstream output;
+    Inspect::PrintJson(list, output);
+    ASSERT_TRUE(Json::accept(output.str())) << output.str();
+    ASSERT_TRUE(IsUtf8(output.str())) << output.str();
+}
+
+void ExpectHarmlessText(const std::vector<FiledStructure>& structures, const OutputStyle& style) {
+    std::ostringstream output;
+    for (const FiledStructure& structure : structures) {
+        Inspect::PrintStructure(structure, style, output);
+    }
+    ASSERT_TRUE(IsUtf8(output.str())) << output.str();
+    ASSERT_FALSE(HasControlByte(output.str())) << output.str();
+    ASSERT_EQ(output.str().find("\xC2\x9B"), std::string::npos) << output.str();
+}
+
+TEST(StructuresOfRandomTables, RandomBytesGiveValidJsonAndHarmlessText) {
+    Random random(1);
+    for (int i = 0; i < kTables; ++i) {
+        const SmbiosVersionIndex version = random.Version();
+        const std::vector<std::uint8_t> table = random.Bytes(random.Below(600));
+        std::vector<FiledStructure> structures;
+        Manager::StructureWalk walk(table);
+        while (const std::optional<Manager::RawStructure> structure = walk.Next()) {
+            structures.push_back(Decoded(*structure, version));
+        }
+        ASSERT_NO_FATAL_FAILURE(ExpectValidJson(structures)) << "table " << i;
+        ASSERT_NO_FATAL_FAILURE(ExpectHarmlessText(structures, {.width = random.Below(120)}))
+            << "table " << i;
+    }
+}
+
+TEST(StructuresOfRandomTables, WellFormedStructuresWithWildStringsGiveValidJsonAndHarmlessText) {
+    Random random(2);
+    for (int i = 0; i < kTables; ++i) {
+        const SmbiosVersionIndex version = random.Version();
+        const std::vector<FiledStructure> structures = {Decoded(WellFormedStructure(random), version),
+                                                        Decoded(WellFormedStructure(random), version)};
+        ASSERT_NO_FATAL_FAILURE(ExpectValidJson(structures)) << "table " << i;
+        ASSERT_NO_FATAL_FAILURE(ExpectHarmlessText(structures, {.width = random.Below(120)}))
+            << "table " << i;
+    }
+}
+
+TEST(StructuresOfRandomTables, NoLineOfShortWordsIsWiderThanTheTerminal) {
+    constexpr std::size_t kWidth = 80;
+    Random random(3);
+    for (int i = 0; i < kTables; ++i) {
+        const SmbiosVersionIndex version = random.Version();
+        std::ostringstream output;
+        Inspect::PrintStructure(Decoded(WellFormedStructure(random), version), {.width = kWidth}, output);
+        std::istringstream lines(output.str());
+        for (std::string line; std::getline(lines, line);) {
+            const auto isStart = [](char character) { return (character & 0xC0) != 0x80; };
+            ASSERT_LE(std::ranges::count_if(line, isStart), std::ptrdiff_t{kWidth}) << line;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace SMBIOS::Tests

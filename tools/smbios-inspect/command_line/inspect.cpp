@@ -1,0 +1,69 @@
+#include "smbios-inspect/command_line/inspect.h"
+
+#include <exception>
+#include <ostream>
+
+#include "smbios-inspect/command_line/options.h"
+#include "smbios-inspect/command_line/save.h"
+#include "smbios-inspect/command_line/table_input.h"
+#include "smbios-inspect/output/text_layout.h"
+#include "smbios-inspect/reports/memory_report.h"
+#include "smbios-inspect/reports/processors_report.h"
+#include "smbios-inspect/reports/structures_report.h"
+#include "smbios-inspect/reports/summary_report.h"
+
+namespace SMBIOS::Inspect {
+
+namespace {
+
+void Report(const Options& options, const OutputStyle& style, std::ostream& output) {
+    switch (options.command) {
+        case Command::summary:
+            ReportSummary(style, output);
+            break;
+        case Command::memory:
+            ReportMemory(options, style, output);
+            break;
+        case Command::processors:
+            ReportProcessors(options, style, output);
+            break;
+        case Command::structures:
+            ReportStructures(options, style, output);
+            break;
+        case Command::save:
+            SaveTable(options.target, options.force);
+            break;
+        case Command::help:
+            output << UsageText();
+            break;
+        case Command::version:
+            output << "smbios-inspect " SMBIOS_INSPECT_VERSION "\n";
+            break;
+    }
+}
+
+bool NeedsTable(Command command) noexcept {
+    return command != Command::help && command != Command::version;
+}
+
+}  // namespace
+
+int Run(std::span<const std::string_view> arguments,
+        const OutputStyle& style,
+        std::ostream& output,
+        std::ostream& errors) {
+    try {
+        const Options options = ParseOptions(arguments);
+        const TableInput table = NeedsTable(options.command) ? TableInput(options.from) : TableInput();
+        Report(options, style, output);
+        return kSuccess;
+    } catch (const UsageError& error) {
+        errors << "smbios-inspect: " << Printable(error.what()) << "\n\n" << UsageText();
+        return kWrongUsage;
+    } catch (const std::exception& error) {
+        errors << "smbios-inspect: " << Printable(error.what()) << "\n";
+        return kUnreadable;
+    }
+}
+
+}  // namespace SMBIOS::Inspect

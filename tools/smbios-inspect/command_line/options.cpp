@@ -1,0 +1,176 @@
+#include "smbios-inspect/command_line/options.h"
+
+#include <charconv>
+#include <vector>
+
+namespace SMBIOS::Inspect {
+
+namespace {
+
+/// A command, the options it takes and what it needs beside them.
+struct CommandSyntax {
+    std::string_view name;
+    Command command;
+    bool takesJson = false;
+    bool takesTypes = false;
+    bool takesTarget = false;
+};
+
+constexpr CommandSyntax kCommands[] = {
+    {.name = "summary", .command = Command::summary},
+    {.name = "memory", .command = Command::memory, .takesJson = true},
+    {.name = "processors", .command = Command::processors, .takesJson = true},
+    {.name = "structures", .command = Command::structures, .takesJson = true, .takesTypes = true},
+    {.name = "save", .command = Command::save, .takesTarget = true},
+};
+
+const CommandSyntax& SyntaxOf(std::string_view name) {
+    for (const CommandSyntax& each : kCommands) {
+        if (each.name == name) {
+            return each;
+        }
+    }
+    throw UsageError("unknown command '" + std::string(name) + "'");
+}
+
+std::uint8_t TypeNumberOf(std::string_view text) {
+    std::uint8_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size()) {
+        throw UsageError("'" + std::string(text) + "' is no structure type: a number from 0 to 255");
+    }
+    return number;
+}
+
+/// Goes through the arguments one by one.
+class ArgumentReader {
+public:
+    explicit ArgumentReader(std::span<const std::string_view> arguments) noexcept : rest_(arguments) {}
+
+    /// Takes the next argument; false at the end.
+    bool Next() noexcept {
+        if (rest_.empty()) {
+            return false;
+        }
+        argument_ = rest_.front();
+        rest_ = rest_.subspan(1);
+        return true;
+    }
+
+    [[nodiscard]] std::string_view Argument() const noexcept { return argument_; }
+
+    /// The value of the option `name`, when that is the argument: "--name VALUE" or "--name=VALUE". Throws
+    /// UsageError when it has none.
+    std::optional<std::string_view> ValueOf(std::string_view name) {
+        std::optional<std::string_view> value;
+        if (argument_ == name) {
+            value = Next() ? argument_ : std::string_view();
+        } else if (argument_.starts_with(name) && argument_.substr(name.size()).starts_with('=')) {
+            value = argument_.substr(name.size() + 1);
+        }
+        if (value && value->empty()) {
+            throw UsageError("option " + std::string(name) + " needs a value");
+        }
+        return value;
+    }
+
+private:
+    std::span<const std::string_view> rest_;
+    std::string_view argument_;
+};
+
+/// Reads one argument; false when it is no option.
+bool ReadOption(ArgumentReader& reader, Options& options) {
+    if (reader.Argument() == "--json") {
+        options.json = true;
+    } else if (reader.Argument() == "--force") {
+        options.force = true;
+    } else if (const auto file = reader.ValueOf("--from")) {
+        options.from = *file;
+    } else if (const auto type = reader.ValueOf("--type")) {
+        options.types.insert(TypeNumberOf(*type));
+    } else if (reader.Argument().starts_with("-")) {
+        throw UsageError("unknown option " + std::string(reader.Argument()));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void RequireThat(bool holds, const CommandSyntax& syntax, std::string_view problem) {
+    if (!holds) {
+        throw UsageError(std::string(syntax.name) + " " + std::string(problem));
+    }
+}
+
+/// What remains when the options are taken: the command, and the file that `save` writes.
+void ReadWords(const std::vector<std::string_view>& words, Options& options) {
+    const CommandSyntax& syntax = words.empty() ? kCommands[0] : SyntaxOf(words[0]);
+    options.command = syntax.command;
+    RequireThat(syntax.takesJson || !options.json, syntax, "does not take --json");
+    RequireThat(syntax.takesTypes || options.types.empty(), syntax, "does not take --type");
+    RequireThat(syntax.takesTarget || !options.force, syntax, "does not take --force");
+    const bool hasTarget = words.size() >= 2 && !words[1].empty();
+    RequireThat(!syntax.takesTarget || hasTarget, syntax, "needs the file to write");
+    const std::size_t wordsTaken = syntax.takesTarget ? 2 : 1;
+    if (words.size() > wordsTaken) {
+        throw UsageError("unexpected argument '" + std::string(words[wordsTaken]) + "'");
+    }
+    if (syntax.takesTarget) {
+        options.target = words[1];
+    }
+}
+
+}  // namespace
+
+Options ParseOptions(std::span<const std::string_view> arguments) {
+    Options options;
+    std::vector<std::string_view> words;
+    for (ArgumentReader reader(arguments); reader.Next();) {
+        if (reader.Argument() == "--help" || reader.Argument() == "-h") {
+            return {.command = Command::help};
+        }
+        if (reader.Argument() == "--version") {
+            return {.command = Command::version};
+        }
+        if (!ReadOption(reader, options)) {
+            words.push_back(reader.Argument());
+        }
+    }
+    ReadWords(words, options);
+    return options;
+}
+
+std::string_view UsageText() noexcept {
+    return "usage: smbios-inspect [summary] [--from FILE]\n"
+           "       smbios-inspect memory [--from FILE] [--json]\n"
+           "       smbios-inspect processors [--from FILE] [--json]\n"
+           "       smbios-inspect structures [--type N]... [--from FILE] [--json]\n"
+           "       smbios-inspect save FILE [--force] [--from FILE]\n"
+           "       smbios-inspect --help | --version\n"
+           "\n"
+           "Shows what this machine's firmware reports about its hardware.\n"
+           "\n"
+           "commands:\n"
+           "  summary       the machine on one screen; the command when none is given\n"
+           "  memory        the memory devices\n"
+           "  processors    the processors\n"
+           "  structures    every structure of the table with all its fields\n"
+           "  save          write the raw table to FILE\n"
+           "\n"
+           "options:\n"
+           "  --from FILE   read a saved table instead of this machine's: the raw table with\n"
+           "                its 8-byte header, an entry point with the table behind it, a\n"
+           "                folder with the files smbios_entry_point and DMI, or - for\n"
+           "                standard input\n"
+           "  --json        print JSON\n"
+           "  --type N      show only structures of type N; may be given several times\n"
+           "  --force       overwrite FILE\n"
+           "  --help        print this text\n"
+           "  --version     print the version\n"
+           "\n"
+           "exit status: 0 on success, 1 when something cannot be read or written,\n"
+           "             2 for wrong usage\n";
+}
+
+}  // namespace SMBIOS::Inspect

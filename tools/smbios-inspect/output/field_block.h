@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "smbios-inspect/output/output_style.h"
+
+namespace SMBIOS::Inspect {
+
+/// What people read of a value, one line an element; none when there is nothing to read.
+using Lines = std::vector<std::string>;
+
+/// A field as people read it. Texts of the firmware are as they are, not yet safe for a terminal.
+struct FieldText {
+    const char* label;
+    Lines lines;
+    bool isFailure;
+};
+
+/// Prints a heading and below it the fields: labels in one column, their lines in another, every text made
+/// safe for a terminal.
+void PrintFieldBlock(std::string_view heading,
+                     const std::vector<FieldText>& fields,
+                     const OutputStyle& style,
+                     std::ostream& output);
+
+}  // namespace SMBIOS::Inspect

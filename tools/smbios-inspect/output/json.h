@@ -1,0 +1,14 @@
+#pragma once
+
+#include <iosfwd>
+#include <nlohmann/json.hpp>
+
+namespace SMBIOS::Inspect {
+
+/// Keeps its members in the order they are added.
+using Json = nlohmann::ordered_json;
+
+/// Prints `json` indented, with a line end. Bytes of a text that are not UTF-8 become U+FFFD.
+void PrintJson(const Json& json, std::ostream& output);
+
+}  // namespace SMBIOS::Inspect

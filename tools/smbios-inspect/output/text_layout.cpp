@@ -1,0 +1,169 @@
+#include "smbios-inspect/output/text_layout.h"
+
+#include <algorithm>
+#include <ostream>
+
+namespace SMBIOS::Inspect {
+
+namespace {
+
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
+
+std::uint8_t ByteOf(char character) noexcept {
+    return static_cast<std::uint8_t>(character);
+}
+
+bool IsContinuation(char character) noexcept {
+    return (ByteOf(character) & 0xC0U) == 0x80;
+}
+
+/// Least and largest value that the byte behind the first one of a character may have.
+struct SecondByte {
+    std::uint8_t least = 0x80;
+    std::uint8_t largest = 0xBF;
+};
+
+SecondByte SecondByteAfter(std::uint8_t first) noexcept {
+    switch (first) {
+        case 0xE0:
+            return {0xA0, 0xBF};  // no overlong forms
+        case 0xED:
+            return {0x80, 0x9F};  // no surrogates
+        case 0xF0:
+            return {0x90, 0xBF};
+        case 0xF4:
+            return {0x80, 0x8F};  // nothing above U+10FFFF
+        default:
+            return {};
+    }
+}
+
+std::size_t LengthAfter(std::uint8_t first) noexcept {
+    if (first < 0x80) {
+        return 1;
+    }
+    if (0xC2 <= first && first <= 0xDF) {
+        return 2;
+    }
+    if (0xE0 <= first && first <= 0xEF) {
+        return 3;
+    }
+    return 0xF0 <= first && first <= 0xF4 ? 4 : 0;
+}
+
+/// Number of bytes of the UTF-8 character at the start of `text`; 0 when there is none.
+std::size_t CharacterLength(std::string_view text) noexcept {
+    const std::uint8_t first = ByteOf(text.front());
+    const std::size_t length = LengthAfter(first);
+    if (length > text.size()) {
+        return 0;
+    }
+    if (length >= 2) {
+        const SecondByte range = SecondByteAfter(first);
+        const std::uint8_t second = ByteOf(text[1]);
+        if (second < range.least || second > range.largest) {
+            return 0;
+        }
+    }
+    for (std::size_t i = 2; i < length; ++i) {
+        if (!IsContinuation(text[i])) {
+            return 0;
+        }
+    }
+    return length;
+}
+
+/// C0 and C1 control characters, and delete: a terminal might obey them.
+bool IsControl(std::string_view character) noexcept {
+    const std::uint8_t first = ByteOf(character.front());
+    return first < 0x20 || first == 0x7F || (first == 0xC2 && ByteOf(character[1]) < 0xA0);
+}
+
+/// Where the first line of `text` ends: at its last blank within `width` columns, else at its first blank.
+std::size_t LineEnd(std::string_view text, std::size_t width) noexcept {
+    std::size_t end = std::string_view::npos;
+    for (std::size_t blank = text.find(' ', text.find_first_not_of(' ')); blank != std::string_view::npos;
+         blank = text.find(' ', blank + 1)) {
+        if (end != std::string_view::npos && DisplayWidth(text.substr(0, blank)) > width) {
+            break;
+        }
+        end = blank;
+    }
+    return end;
+}
+
+std::string_view WithoutLeadingBlanks(std::string_view text) noexcept {
+    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
+}
+
+std::string_view EscapeSequenceFor(Emphasis emphasis) noexcept {
+    switch (emphasis) {
+        case Emphasis::heading:
+            return "\x1B[1m";  // bold
+        case Emphasis::warning:
+            return "\x1B[33m";  // yellow
+        case Emphasis::failure:
+            return "\x1B[31m";  // red
+        case Emphasis::none:
+            break;
+    }
+    return {};
+}
+
+}  // namespace
+
+std::string Printable(std::string_view text) {
+    std::string printable;
+    while (!text.empty()) {
+        const std::size_t length = CharacterLength(text);
+        if (length == 0 || IsControl(text.substr(0, length))) {
+            printable += kReplacement;
+        } else {
+            printable += text.substr(0, length);
+        }
+        text.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return printable;
+}
+
+std::size_t DisplayWidth(std::string_view text) noexcept {
+    return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, IsContinuation));
+}
+
+std::string_view WithoutTrailingBlanks(std::string_view text) noexcept {
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+std::vector<std::string> WrapWords(std::string_view text, std::size_t width) {
+    std::vector<std::string> lines;
+    text = WithoutTrailingBlanks(text);
+    while (width != 0 && DisplayWidth(text) > width) {
+        const std::size_t end = LineEnd(text, width);
+        if (end == std::string_view::npos) {
+            break;
+        }
+        lines.emplace_back(WithoutTrailingBlanks(text.substr(0, end)));
+        text = WithoutLeadingBlanks(text.substr(end));
+    }
+    lines.emplace_back(text);
+    return lines;
+}
+
+std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style) {
+    constexpr std::string_view kPlain = "\x1B[0m";
+    if (!style.colour || text.empty() || emphasis == Emphasis::none) {
+        return std::string(text);
+    }
+    std::string emphasised(EscapeSequenceFor(emphasis));
+    emphasised += text;
+    emphasised += kPlain;
+    return emphasised;
+}
+
+void PrintSentence(std::string_view text, const OutputStyle& style, std::ostream& output) {
+    for (const std::string& line : WrapWords(Printable(text), style.width)) {
+        output << line << '\n';
+    }
+}
+
+}  // namespace SMBIOS::Inspect

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "smbios-inspect/output/output_style.h"
+
+// How any text is laid out for a terminal.
+namespace SMBIOS::Inspect {
+
+/// `text` made safe for a terminal: control bytes and bytes that are not UTF-8 become U+FFFD.
+[[nodiscard]] std::string Printable(std::string_view text);
+
+/// Number of terminal columns that printable UTF-8 takes, one for each character.
+[[nodiscard]] std::size_t DisplayWidth(std::string_view text) noexcept;
+
+/// `text` up to its last character that is no blank.
+[[nodiscard]] std::string_view WithoutTrailingBlanks(std::string_view text) noexcept;
+
+/// Printable text cut between words into lines of at most `width` columns, 0 for no limit. A longer word has
+/// a line of its own. There is at least one line, and none ends with a blank.
+[[nodiscard]] std::vector<std::string> WrapWords(std::string_view text, std::size_t width);
+
+/// What colour sets off from the rest.
+enum class Emphasis : std::uint8_t { none, heading, warning, failure };
+
+/// `text` in the emphasis's colour, if the style has colours.
+[[nodiscard]] std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style);
+
+/// Prints a sentence, which may come from the firmware, on as many lines as it takes.
+void PrintSentence(std::string_view text, const OutputStyle& style, std::ostream& output);
+
+}  // namespace SMBIOS::Inspect

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <tuple>
+
+#include "smbios-inspect/output/field_block.h"
+
+// The vocabulary in which records are described: one line a field, read by every writer.
+namespace SMBIOS::Inspect {
+
+/// The label of a field that people find in the words of another one, or not at all.
+inline constexpr const char* kShownElsewhere = nullptr;
+
+/// The label of a field in a part of a record whose words need none.
+inline constexpr const char* kNoLabel = "";
+
+/// How people read a value. A function that takes the record and returns `Lines` is a form too.
+struct Plainly {};
+struct InHexadecimal {};
+struct Numbered {};  ///< a line an element, with its number from 1 on
+struct Failure {};   ///< what went wrong
+struct IfSet {       ///< a word for what is true
+    const char* word;
+};
+struct Unit {
+    const char* name;
+};
+struct ByteSize {
+    std::uint64_t unit = 1;  ///< bytes that the value counts
+};
+
+/// A code beside the field that holds its text: "DDR4 (26)".
+template <class Record, class Text>
+struct NamedBy {
+    Text Record::*text;
+};
+template <class Record, class Text>
+NamedBy(Text Record::*) -> NamedBy<Record, Text>;
+
+/// One field of a record: its name in programs, its label for people, where it is and how people read it.
+template <class Record, class Value, class Form>
+struct Field {
+    const char* name;
+    const char* label;
+    Value Record::*value;
+    Form form = {};
+};
+template <class Record, class Value>
+Field(const char*, const char*, Value Record::*) -> Field<Record, Value, Plainly>;
+template <class Record, class Value, class Form>
+Field(const char*, const char*, Value Record::*, Form) -> Field<Record, Value, Form>;
+
+/// Its specialisation for a record has `kFields`: a tuple of the record's own fields in the order in which it
+/// declares them.
+template <class Record>
+struct Description;
+
+template <class Record>
+concept Described = requires {
+    Description<Record>::kFields;
+};
+
+/// Calls `visit` for each of these fields, in order.
+template <class Fields, class Visitor>
+void ForEachField(const Fields& fields, Visitor visit) {
+    std::apply([&](const auto&... field) { (visit(field), ...); }, fields);
+}
+
+}  // namespace SMBIOS::Inspect

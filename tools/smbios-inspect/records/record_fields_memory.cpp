@@ -1,0 +1,69 @@
+#include "smbios-inspect/records/record_fields_memory.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "smbios-inspect/output/units.h"
+#include "smbios-inspect/records/memory_size.h"
+#include "smbios-inspect/records/record_writer_definition.h"
+#include "structures/formatted_area.h"
+
+namespace SMBIOS::Inspect {
+
+namespace {
+
+using Structures::FormattedArea;
+
+constexpr std::uint64_t kKilobyte = 1024;
+
+/// Where the DWORD at `offset` is all ones, the address stands elsewhere and in bytes.
+Lines AddressText(const std::string& address, const std::vector<std::uint8_t>& rawBytes, std::size_t offset) {
+    if (address.empty()) {
+        return {};
+    }
+    const bool isInBytes = FormattedArea(rawBytes).Dword(offset) == 0xFFFFFFFF;
+    return {address + (isInBytes ? "" : " KiB")};
+}
+
+}  // namespace
+
+Lines MaximumCapacityText(const Structures::Type16::Types::Type16Struct& record) {
+    if (!record.maximumCapacity) {
+        return {};
+    }
+    const bool isExtended = FormattedArea(record.rawBytes).Dword(0x07) == 0;
+    return {ByteSizeText(*record.maximumCapacity * (isExtended ? 1 : kKilobyte))};
+}
+
+Lines DeviceSizeText(const Structures::Type17::Types::Type17Struct& record) {
+    const std::optional<std::uint64_t> bytes = MemoryDeviceBytes(record.size, record.rawBytes);
+    return bytes ? Lines{ByteSizeText(*bytes)} : Lines();
+}
+
+Lines ArrayStartText(const Structures::Type19::Types::Type19Struct& record) {
+    return AddressText(record.startingAddress, record.rawBytes, 0x04);
+}
+
+Lines ArrayEndText(const Structures::Type19::Types::Type19Struct& record) {
+    return AddressText(record.endingAddress, record.rawBytes, 0x08);
+}
+
+Lines DeviceStartText(const Structures::Type20::Types::Type20Struct& record) {
+    return AddressText(record.startingAddress, record.rawBytes, 0x04);
+}
+
+Lines DeviceEndText(const Structures::Type20::Types::Type20Struct& record) {
+    return AddressText(record.endingAddress, record.rawBytes, 0x08);
+}
+
+template RecordWriter WriterOf<Structures::Type_16>();
+template RecordWriter WriterOf<Structures::Type_17>();
+template RecordWriter WriterOf<Structures::Type_18>();
+template RecordWriter WriterOf<Structures::Type_19>();
+template RecordWriter WriterOf<Structures::Type_20>();
+template RecordWriter WriterOf<Structures::Type_33>();
+
+}  // namespace SMBIOS::Inspect

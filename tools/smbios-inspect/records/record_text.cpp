@@ -1,0 +1,38 @@
+#include "smbios-inspect/records/record_text.h"
+
+#include "common/format.h"
+
+namespace SMBIOS::Inspect {
+
+Lines RecordText::LinesOf(float number) {
+    return {Common::format("{:.6g}", number)};
+}
+
+Lines RecordText::LinesOf(const std::vector<std::uint8_t>& bytes) {
+    Lines texts;
+    for (const std::uint8_t byte : bytes) {
+        texts.push_back(Common::format("{:02x}", byte));
+    }
+    return texts.empty() ? Lines() : Lines{Joined(texts, " ")};
+}
+
+Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags) {
+    Lines names;
+    for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
+        if (flags.Test(bit)) {
+            const char* const name = flags.GetBitName(bit);
+            names.push_back(name == nullptr ? "bit " + std::to_string(bit) : name);
+        }
+    }
+    return {names.empty() ? "none" : Joined(names, ", ")};
+}
+
+std::string RecordText::Joined(const Lines& texts, const char* separator) {
+    std::string joined;
+    for (const std::string& text : texts) {
+        joined += joined.empty() ? text : separator + text;
+    }
+    return joined;
+}
+
+}  // namespace SMBIOS::Inspect

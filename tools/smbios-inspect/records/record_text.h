@@ -1,0 +1,163 @@
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "common/dynamic_bitset.h"
+#include "smbios-inspect/output/units.h"
+#include "smbios-inspect/records/field.h"
+#include "structures/hex_text.h"
+
+namespace SMBIOS::Inspect {
+
+/// Writes a record for people: each field in its form, an absent one not at all.
+class RecordText {
+public:
+    /// The given fields of a record, or of a part of one.
+    template <class Fields, class Record>
+    [[nodiscard]] static std::vector<FieldText> Of(const Fields& fields, const Record& record) {
+        std::vector<FieldText> texts;
+        ForEachField(fields,
+                     [&]<class Owner, class Value, class Form>(const Field<Owner, Value, Form>& field) {
+                         if (field.label == kShownElsewhere) {
+                             return;
+                         }
+                         Lines lines = InForm(record.*field.value, record, field.form);
+                         if (!lines.empty()) {
+                             texts.push_back({field.label, std::move(lines), std::is_same_v<Form, Failure>});
+                         }
+                     });
+        return texts;
+    }
+
+    [[nodiscard]] static Lines LinesOf(bool value) { return {value ? "yes" : "no"}; }
+
+    template <std::unsigned_integral Number>
+    [[nodiscard]] static Lines LinesOf(Number number) {
+        return {std::to_string(number)};
+    }
+
+    /// Six digits are all that the firmware gives; more would show how the fraction was rounded.
+    [[nodiscard]] static Lines LinesOf(float number);
+
+    [[nodiscard]] static Lines LinesOf(const std::string& text) {
+        return text.empty() ? Lines() : Lines{text};
+    }
+
+    [[nodiscard]] static Lines LinesOf(const std::vector<std::uint8_t>& bytes);
+
+    /// The names of the flags that are set.
+    [[nodiscard]] static Lines LinesOf(const Common::Dynamic_BitSet& flags);
+
+    /// The fields of a part of a record, in one line.
+    template <Described Part>
+    [[nodiscard]] static Lines LinesOf(const Part& part) {
+        Lines words;
+        for (const FieldText& text : Of(Description<Part>::kFields, part)) {
+            const std::string label = *text.label == '\0' ? "" : std::string(text.label) + " ";
+            words.push_back(label + text.lines.front());
+        }
+        return words.empty() ? Lines() : Lines{Joined(words, ", ")};
+    }
+
+    template <class Element>
+    [[nodiscard]] static Lines LinesOf(const std::vector<Element>& elements) {
+        Lines lines;
+        for (const Element& element : elements) {
+            lines.push_back(Joined(LinesOf(element), ", "));
+        }
+        return lines;
+    }
+
+    template <class Value>
+    [[nodiscard]] static Lines LinesOf(const std::optional<Value>& value) {
+        return value ? LinesOf(*value) : Lines();
+    }
+
+private:
+    template <class Value, class Record>
+    static Lines InForm(const Value& value, const Record&, Plainly) {
+        return LinesOf(value);
+    }
+
+    template <class Value, class Record>
+    static Lines InForm(const Value& value, const Record&, Failure) {
+        return LinesOf(value);
+    }
+
+    template <class Record>
+    static Lines InForm(bool value, const Record&, IfSet flag) {
+        return value ? Lines{flag.word} : Lines();
+    }
+
+    template <class Value, class Record>
+    static Lines InForm(const Value& value, const Record&, InHexadecimal) {
+        return HexadecimalLinesOf(value);
+    }
+
+    template <class Value, class Record>
+    static Lines InForm(const Value& value, const Record&, Numbered) {
+        Lines lines = LinesOf(value);
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            lines[i] = std::to_string(i + 1) + (lines[i].empty() ? ":" : ": ") + lines[i];
+        }
+        return lines;
+    }
+
+    template <class Value, class Record>
+    static Lines InForm(const Value& value, const Record&, Unit unit) {
+        Lines lines = LinesOf(value);
+        for (std::string& line : lines) {
+            line += std::string(" ") + unit.name;
+        }
+        return lines;
+    }
+
+    template <std::unsigned_integral Number, class Record>
+    static Lines InForm(const std::optional<Number>& number, const Record&, ByteSize size) {
+        return number ? Lines{ByteSizeText(*number * size.unit)} : Lines();
+    }
+
+    template <class Value, class Record, class Owner, class Text>
+    static Lines InForm(const Value& code, const Record& record, NamedBy<Owner, Text> name) {
+        const Lines text = LinesOf(record.*name.text);
+        const Lines number = LinesOf(code);
+        if (text.empty() || number.empty()) {
+            return text.empty() ? number : text;
+        }
+        return {text.front() + " (" + number.front() + ")"};
+    }
+
+    template <class Value, class Record, class Owner>
+    static Lines InForm(const Value&, const Record& record, Lines (*wording)(const Owner&)) {
+        return wording(record);
+    }
+
+    template <std::unsigned_integral Number>
+    static Lines HexadecimalLinesOf(Number number) {
+        return {Structures::PaddedHexText(number, 2 * sizeof(Number))};
+    }
+
+    template <class Value>
+    static Lines HexadecimalLinesOf(const std::optional<Value>& value) {
+        return value ? HexadecimalLinesOf(*value) : Lines();
+    }
+
+    template <std::unsigned_integral Number>
+    static Lines HexadecimalLinesOf(const std::vector<Number>& numbers) {
+        Lines texts;
+        for (const Number number : numbers) {
+            texts.push_back(HexadecimalLinesOf(number).front());
+        }
+        return texts.empty() ? Lines() : Lines{Joined(texts, ", ")};
+    }
+
+    [[nodiscard]] static std::string Joined(const Lines& texts, const char* separator);
+};
+
+}  // namespace SMBIOS::Inspect

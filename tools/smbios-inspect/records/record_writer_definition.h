@@ -1,0 +1,37 @@
+#pragma once
+
+#include "smbios-inspect/records/record_completeness.h"
+#include "smbios-inspect/records/record_fields.h"
+#include "smbios-inspect/records/record_json.h"
+#include "smbios-inspect/records/record_text.h"
+#include "smbios-inspect/records/record_writer.h"
+
+// For the sources that describe records; see record_writer.h.
+namespace SMBIOS::Inspect {
+
+template <class Decoder>
+const auto& RecordOf(const Structures::BaseStructure& decoder) {
+    return *dynamic_cast<const Decoder&>(decoder).GetRecord();
+}
+
+template <class Decoder>
+RecordWriter WriterOf() {
+    using Structures::BaseStructure;
+    using Record = std::remove_cvref_t<decltype(RecordOf<Decoder>(std::declval<const BaseStructure&>()))>;
+    static_assert(kIsDescribedWhole<Record>, "a field of the record has no description");
+    return {
+        .json = [](const BaseStructure& decoder) { return RecordJson::Of(RecordOf<Decoder>(decoder)); },
+        .texts =
+            [](const BaseStructure& decoder) {
+                return RecordText::Of(AllFieldsOf<Record>(), RecordOf<Decoder>(decoder));
+            },
+        .rawBytes = [](const BaseStructure& decoder) -> const std::vector<std::uint8_t>& {
+            return RecordOf<Decoder>(decoder).rawBytes;
+        },
+        .error = [](const BaseStructure& decoder) -> const std::string& {
+            return RecordOf<Decoder>(decoder).error;
+        },
+    };
+}
+
+}  // namespace SMBIOS::Inspect
