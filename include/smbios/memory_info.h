@@ -8,17 +8,22 @@
 
 namespace SMBIOS::Parsers {
 
-/// The memory devices of this machine, one row per device, in ascending order of their serial numbers.
+/// The memory devices of this machine, one row for each serial number, in ascending order.
+///
+/// A row is not a slot: a device without a serial number, and every device behind it in the table, is listed
+/// only as WMI reports it, and not at all where there is no WMI; of several with one serial number the first
+/// is listed. `smbios-inspect structures --type 17` shows every device of the table.
 ///
 /// Create an object, call `RetrieveInfo` once, then read the rows 0 to `GetMemoryDeviceCount() - 1`. A number
 /// that is absent, or whose index is out of range, is the all-ones value of its type (255, 65535, 4294967295,
 /// 18446744073709551615); a text that is absent is nullptr. The two cases cannot be told apart.
 ///
-/// Texts and raw data belong to the object: they stay valid while it lives and until its next `RetrieveInfo`,
-/// and are never freed by the caller. Texts end with a NUL and are not converted: firmware writes them in
-/// ASCII.
+/// Texts and raw data belong to the object: they change in its own `RetrieveInfo` and at no other time, stay
+/// valid until then or until it goes, and are never freed by the caller. Texts end with a NUL and are not
+/// converted: firmware writes them in ASCII.
 ///
-/// The object takes no lock: `RetrieveInfo` must not run while another thread uses the same object.
+/// Objects of both classes may be used on different threads in every combination. One object takes no lock of
+/// its own: its `RetrieveInfo` must not run while another thread uses the same object.
 class SMBIOS_EXPORT MemoryInfo {
 public:
     /// No rows yet. Throws std::bad_alloc.
@@ -31,8 +36,7 @@ public:
     /// (Re)builds the rows. The first call in the process reads the firmware table; it throws an exception
     /// derived from std::exception when the machine exposes none or it is corrupted, and then the rows are
     /// as they were. Values the firmware left out are completed by one query of Win32_PhysicalMemory, during
-    /// which the calling thread waits for PowerShell; when that fails the rows just stay incomplete. A device
-    /// without a serial number cannot be completed: its table's devices are then listed as WMI reports them.
+    /// which the calling thread waits for PowerShell; when that fails the rows just stay incomplete.
     void RetrieveInfo();
 
     /// Number of rows.

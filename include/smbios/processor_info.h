@@ -8,18 +8,24 @@
 
 namespace SMBIOS::Parsers {
 
-/// The processors of this machine, one row per socket, in ascending order of their processor ids.
+/// The processors of this machine, one row for each processor id, in ascending order.
+///
+/// A row is not a socket: of several processors with one id, which identical processors have, only the first
+/// is listed. A processor that could not be decoded has no id: it, and every processor behind it in the
+/// table, is listed only as WMI reports it, and not at all where there is no WMI. `smbios-inspect structures
+/// --type 4` shows every socket of the table.
 ///
 /// Create an object, call `RetrieveInfo` once, then read the rows 0 to `GetCPUCount() - 1`. A number that is
 /// absent, or whose index is out of range, is the all-ones value of its type (255, 65535,
 /// 18446744073709551615; for the voltage the largest finite float, 3.4028235e38); a text that is absent is
 /// nullptr; a flag that is absent is an unset EBOOL. Absence and a wrong index cannot be told apart.
 ///
-/// Texts and raw data belong to the object: they stay valid while it lives and until its next `RetrieveInfo`,
-/// and are never freed by the caller. Texts end with a NUL and are not converted: firmware writes them in
-/// ASCII.
+/// Texts and raw data belong to the object: they change in its own `RetrieveInfo` and at no other time, stay
+/// valid until then or until it goes, and are never freed by the caller. Texts end with a NUL and are not
+/// converted: firmware writes them in ASCII.
 ///
-/// The object takes no lock: `RetrieveInfo` must not run while another thread uses the same object.
+/// Objects of both classes may be used on different threads in every combination. One object takes no lock of
+/// its own: its `RetrieveInfo` must not run while another thread uses the same object.
 class SMBIOS_EXPORT ProcessorInfo {
 public:
     /// No rows yet. Throws std::bad_alloc.
@@ -32,8 +38,7 @@ public:
     /// (Re)builds the rows. The first call in the process reads the firmware table; it throws an exception
     /// derived from std::exception when the machine exposes none or it is corrupted, and then the rows are
     /// as they were. Values the firmware left out are completed by one query of Win32_Processor, during which
-    /// the calling thread waits for PowerShell; when that fails the rows just stay incomplete. Of several
-    /// processors with one processor id only the first is listed.
+    /// the calling thread waits for PowerShell; when that fails the rows just stay incomplete.
     void RetrieveInfo();
 
     /// Number of rows.

@@ -114,12 +114,13 @@ public:
     template <class Link = NoLink>
     void Rebuild(const Records& records, Link link = {}) {
         Request request = FileRecords(records, link);
+        nlohmann::json instancesByKey;
         if (!request.properties.empty()) {
-            try {
-                CompleteFromWmi(request);
-            } catch (...) {  // NOLINT(bugprone-empty-catch): what was stored so far stays
-            }
+            Quietly([&] { instancesByKey = AskWmi(request); });
         }
+        // Stored and copied under one lock, too: no other object's link gets between the two.
+        const std::unique_lock lock(recordLock);
+        Quietly([&] { Store(instancesByKey, request.properties); });
         rows_ = CopyRows();
     }
 
@@ -129,6 +130,15 @@ private:
         Wmi::PropertySet properties;
         std::vector<std::string> keys;  ///< of the records to complete; empty for no filter
     };
+
+    /// Runs one step of the completion; what it did before it failed stays.
+    template <class Step>
+    static void Quietly(Step step) noexcept {
+        try {
+            step();
+        } catch (...) {  // NOLINT(bugprone-empty-catch): rows without the completion are complete answers
+        }
+    }
 
     /// Linked and filed under one lock: between the two, another object's link would undo a completion.
     template <class Link>
@@ -164,7 +174,7 @@ private:
         recordsByKey_.try_emplace(key, record);
     }
 
-    void CompleteFromWmi(Request& request) {
+    [[nodiscard]] nlohmann::json AskWmi(Request& request) const {
         request.properties.emplace(source_.keyProperty);
 
         Wmi::WmiQuery query;
@@ -175,10 +185,12 @@ private:
         }
         nlohmann::json instancesByKey;
         query.FetchByKey(instancesByKey, source_.keyProperty, request.properties);
+        return instancesByKey;
+    }
 
-        const std::unique_lock lock(recordLock);
+    void Store(const nlohmann::json& instancesByKey, const Wmi::PropertySet& requested) {
         for (const auto& [key, instance] : instancesByKey.items()) {
-            StoreMembers(RecordOf(key), instance, request.properties);
+            StoreMembers(RecordOf(key), instance, requested);
         }
     }
 
@@ -192,7 +204,6 @@ private:
     }
 
     [[nodiscard]] std::vector<Record> CopyRows() const {
-        const std::unique_lock lock(recordLock);
         std::vector<Record> rows;
         rows.reserve(recordsByKey_.size());
         for (const auto& [key, record] : recordsByKey_) {
