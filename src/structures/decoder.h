@@ -21,11 +21,11 @@ using Manager::Types::StructureTypes;
 /// fields, string set, raw bytes, with every failure caught into the record. A decoder `Type` derives from
 /// `Decoder<Type, Record>` and supplies only what is its own:
 ///
-///     static constexpr StructureTypes kKey;                             what it is filed under
-///     static const ParseRules kRules;                                   what it accepts
-///     static void DecodeFields(StructureReader& in, Record& record);    its fields in order
+///     static constexpr StructureTypes kKey;                                    what it is filed under
+///     static const ParseRules kRules;                                          what it accepts
+///     static void DecodeFieldsInOrder(StructureReader& in, Record& record);    its fields, and their order
 ///
-/// The order of the fields matters: what was decoded before a failure stays in the record.
+/// The order is part of it: what was decoded before a failure stays in the record.
 template <class Type, class Record>
 class Decoder : public BaseStructure {
 public:
@@ -37,7 +37,7 @@ public:
         const bool decoded = Attempt([&] {
             this->Parse(formattedBytes);
             StructureReader in(formattedBytes, strings, version_);
-            Type::DecodeFields(in, *record_);
+            Type::DecodeFieldsInOrder(in, *record_);
         });
         if (KeepsStrings(Type::kRules.strings, decoded, strings.empty())) {
             Attempt([&] { record_->strings = strings; });

@@ -122,7 +122,7 @@ constinit const ParseRules Type_0::kRules = {
     .strings = StringSetRule::alwaysIfPresent,
 };
 
-void Type_0::DecodeFields(StructureReader& in, Type0Struct& record) {
+void Type_0::DecodeFieldsInOrder(StructureReader& in, Type0Struct& record) {
     // Departs from the standard: the firmware version at 0x05 is not read.
     record.vendor = in.String(0x04);
     record.releaseDate = in.String(0x08);

@@ -41,7 +41,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type0::Types::Type0Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type0::Types::Type0Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -62,7 +62,7 @@ constinit const ParseRules Type_1::kRules = {
     .gates = kGates,
 };
 
-void Type_1::DecodeFields(StructureReader& in, Type1Struct& record) {
+void Type_1::DecodeFieldsInOrder(StructureReader& in, Type1Struct& record) {
     record.uuid = UuidOf(in);  // departs from the standard: tables of 2.0.0 have one too
     record.version = in.String(0x06);
     record.manufacturer = in.String(0x04);

@@ -35,7 +35,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type1::Types::Type1Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type1::Types::Type1Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

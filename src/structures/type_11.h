@@ -21,7 +21,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type11::Types::Type11Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type11::Types::Type11Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -64,7 +64,7 @@ constinit const ParseRules Type_16::kRules = {
     .strings = StringSetRule::onSuccess,
 };
 
-void Type_16::DecodeFields(StructureReader& in, Type16Struct& record) {
+void Type_16::DecodeFieldsInOrder(StructureReader& in, Type16Struct& record) {
     record.use = in.Byte(0x05);
     record.location = in.Byte(0x04);
     record.memoryErrorCorrection = in.Byte(0x06);

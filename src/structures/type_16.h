@@ -35,7 +35,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type16::Types::Type16Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type16::Types::Type16Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -166,7 +166,7 @@ constinit const ParseRules Type_17::kRules = {
     .gates = kGates,
 };
 
-void Type_17::DecodeFields(StructureReader& in, Type17Struct& record) {
+void Type_17::DecodeFieldsInOrder(StructureReader& in, Type17Struct& record) {
     record.size = SizeOf(in);
     record.bankLocator = in.String(0x11);
     record.deviceSet = in.Byte(0x0F);

@@ -69,7 +69,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type17::Types::Type17Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type17::Types::Type17Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

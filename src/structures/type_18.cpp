@@ -19,7 +19,7 @@ constinit const ParseRules Type_18::kRules = {
     .strings = StringSetRule::onSuccess,
 };
 
-void Type_18::DecodeFields(StructureReader& in, Type18Struct& record) {
+void Type_18::DecodeFieldsInOrder(StructureReader& in, Type18Struct& record) {
     DecodeErrorCodes(in, record);
     record.vendorSyndrome = HexTextUnless(0, in.Dword(0x07));
     record.errorResolution = HexTextUnless(kNoValue, in.Dword(0x13));

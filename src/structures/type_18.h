@@ -21,7 +21,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type18::Types::Type18Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type18::Types::Type18Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -22,7 +22,7 @@ constinit const ParseRules Type_19::kRules = {
     .strings = StringSetRule::onSuccess,
 };
 
-void Type_19::DecodeFields(StructureReader& in, Type19Struct& record) {
+void Type_19::DecodeFieldsInOrder(StructureReader& in, Type19Struct& record) {
     record.partitionWidth = in.Byte(0x0E);
     record.memoryArrayHandle = in.Word(0x0C);
     record.startingAddress = MappedAddress(in, 0x04, 0x0F);

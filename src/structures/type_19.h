@@ -31,7 +31,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type19::Types::Type19Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type19::Types::Type19Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -41,7 +41,7 @@ std::optional<std::vector<std::uint16_t>> ContainedObjectHandlesOf(const Structu
 
 constinit const ParseRules Type_2::kRules = {.lengths = LengthAtLeast(0x08)};
 
-void Type_2::DecodeFields(StructureReader& in, Type2Struct& record) {
+void Type_2::DecodeFieldsInOrder(StructureReader& in, Type2Struct& record) {
     record.boardTypeValue = in.Byte(0x0D);
     record.chassisHandle = in.Word(0x0B);
     record.featureFlags = FeatureFlagsOf(in.Byte(0x09));

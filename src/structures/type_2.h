@@ -48,7 +48,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type2::Types::Type2Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type2::Types::Type2Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

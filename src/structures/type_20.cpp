@@ -28,7 +28,7 @@ constinit const ParseRules Type_20::kRules = {
     .strings = StringSetRule::onSuccess,
 };
 
-void Type_20::DecodeFields(StructureReader& in, Type20Struct& record) {
+void Type_20::DecodeFieldsInOrder(StructureReader& in, Type20Struct& record) {
     record.memoryDeviceHandle = in.Word(0x0C);
     record.memoryArrayMappedAddressHandle = in.Word(0x0E);
     record.partitionRowPosition = PartitionRowPositionOf(in);

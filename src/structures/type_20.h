@@ -34,7 +34,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type20::Types::Type20Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type20::Types::Type20Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

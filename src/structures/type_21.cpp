@@ -39,7 +39,7 @@ constinit const ParseRules Type_21::kRules = {
     .versions = VersionExactly(v2_1_0),  // departs from the standard: later versions have the structure too
 };
 
-void Type_21::DecodeFields(StructureReader& in, Type21Struct& record) {
+void Type_21::DecodeFieldsInOrder(StructureReader& in, Type21Struct& record) {
     record.typeValue = in.Byte(0x04);
     record.interfaceValue = in.Byte(0x05);
     record.numberOfButtons = in.Byte(0x06);

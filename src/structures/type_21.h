@@ -31,7 +31,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type21::Types::Type21Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type21::Types::Type21Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

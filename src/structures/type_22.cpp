@@ -68,7 +68,7 @@ constinit const ParseRules Type_22::kRules = {
     .gates = kGates,
 };
 
-void Type_22::DecodeFields(StructureReader& in, Type22Struct& record) {
+void Type_22::DecodeFieldsInOrder(StructureReader& in, Type22Struct& record) {
     record.manufactureDate = ManufactureDateOf(in);
     record.location = in.String(0x04);
     record.deviceName = in.String(0x08);

@@ -38,7 +38,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type22::Types::Type22Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type22::Types::Type22Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

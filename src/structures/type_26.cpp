@@ -14,7 +14,7 @@ constexpr ProbeFactors kFactors = {.value = 1.0F, .resolution = 0.1F, .tolerance
 
 constinit const ParseRules Type_26::kRules = {.versions = VersionAtLeast(v2_2_0)};
 
-void Type_26::DecodeFields(StructureReader& in, Type26Struct& record) {
+void Type_26::DecodeFieldsInOrder(StructureReader& in, Type26Struct& record) {
     DecodeProbe(in, kElectricalProbeLocationNames.Rows(), kFactors, record);
 }
 

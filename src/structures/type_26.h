@@ -21,7 +21,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type26::Types::Type26Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type26::Types::Type26Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

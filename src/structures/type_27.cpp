@@ -36,7 +36,7 @@ constinit const ParseRules Type_27::kRules = {
     .gates = kGates,
 };
 
-void Type_27::DecodeFields(StructureReader& in, Type27Struct& record) {
+void Type_27::DecodeFieldsInOrder(StructureReader& in, Type27Struct& record) {
     const auto deviceType = static_cast<std::uint8_t>(in.Byte(0x06) & 0x1F);
     const auto status = static_cast<std::uint8_t>(in.Byte(0x06) >> 5);
 

@@ -33,7 +33,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type27::Types::Type27Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type27::Types::Type27Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -31,7 +31,7 @@ constexpr ProbeFactors kFactors = {.value = 0.1F, .resolution = 0.001F, .toleran
 
 constinit const ParseRules Type_28::kRules = {.versions = VersionAtLeast(v2_2_0)};
 
-void Type_28::DecodeFields(StructureReader& in, Type28Struct& record) {
+void Type_28::DecodeFieldsInOrder(StructureReader& in, Type28Struct& record) {
     DecodeProbe(in, kTemperatureProbeLocationNames.Rows(), kFactors, record);
 }
 

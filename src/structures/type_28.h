@@ -21,7 +21,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type28::Types::Type28Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type28::Types::Type28Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

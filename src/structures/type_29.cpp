@@ -14,7 +14,7 @@ constexpr ProbeFactors kFactors = {.value = 1.0F, .resolution = 0.1F, .tolerance
 
 constinit const ParseRules Type_29::kRules = {.versions = VersionAtLeast(v2_2_0)};
 
-void Type_29::DecodeFields(StructureReader& in, Type29Struct& record) {
+void Type_29::DecodeFieldsInOrder(StructureReader& in, Type29Struct& record) {
     DecodeProbe(in, kElectricalProbeLocationNames.Rows(), kFactors, record);
 }
 

@@ -21,7 +21,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type29::Types::Type29Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type29::Types::Type29Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -127,7 +127,7 @@ std::string SkuNumberOf(const StructureReader& in) {
 
 constinit const ParseRules Type_3::kRules = {.lengths = LengthAtLeast(0x09), .gates = kGates};
 
-void Type_3::DecodeFields(StructureReader& in, Type3Struct& record) {
+void Type_3::DecodeFieldsInOrder(StructureReader& in, Type3Struct& record) {
     record.chassisTypeValue = LowSevenBits(in.Byte(0x05));
     record.chassisLock = HasTopBit(in.Byte(0x05));
     record.version = in.String(0x06);

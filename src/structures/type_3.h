@@ -56,7 +56,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type3::Types::Type3Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type3::Types::Type3Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -36,7 +36,7 @@ std::string_view BootStatusName(std::uint8_t code) {
 
 constinit const ParseRules Type_32::kRules = {.versions = VersionAtLeast(v2_3_0)};
 
-void Type_32::DecodeFields(StructureReader& in, Type32Struct& record) {
+void Type_32::DecodeFieldsInOrder(StructureReader& in, Type32Struct& record) {
     const auto bootStatusData = in.Bytes<10>(0x0A);
     const std::uint8_t code = in.Byte(0x13);  // departs from the standard: the last byte, not the first
 

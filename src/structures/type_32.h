@@ -30,7 +30,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type32::Types::Type32Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type32::Types::Type32Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

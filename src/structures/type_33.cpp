@@ -18,7 +18,7 @@ constinit const ParseRules Type_33::kRules = {
     .strings = StringSetRule::onSuccess,
 };
 
-void Type_33::DecodeFields(StructureReader& in, Type33Struct& record) {
+void Type_33::DecodeFieldsInOrder(StructureReader& in, Type33Struct& record) {
     DecodeErrorCodes(in, record);
     record.errorResolution = HexTextUnless(kUnknownResolution, in.Dword(0x1B));
     record.deviceErrorAddress = HexTextUnless(kUnknownAddress, in.Qword(0x13));

@@ -21,7 +21,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type33::Types::Type33Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type33::Types::Type33Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -40,7 +40,7 @@ constexpr std::uint8_t CodeInBits(std::uint16_t characteristics, unsigned last, 
 
 constinit const ParseRules Type_39::kRules = {.versions = VersionAtLeast(v2_4_0)};
 
-void Type_39::DecodeFields(StructureReader& in, Type39Struct& record) {
+void Type_39::DecodeFieldsInOrder(StructureReader& in, Type39Struct& record) {
     const std::uint16_t characteristics = in.Word(0x0F);  // departs from the standard: one byte further on
 
     record.powerUnitGroup = in.Byte(0x04);

@@ -42,7 +42,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type39::Types::Type39Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type39::Types::Type39Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -104,7 +104,7 @@ constinit const ParseRules Type_4::kRules = {
     .gates = kGates,
 };
 
-void Type_4::DecodeFields(StructureReader& in, Type4Struct& record) {
+void Type_4::DecodeFieldsInOrder(StructureReader& in, Type4Struct& record) {
     DecodeVoltage(in, record);
     record.processorId = Common::format("{:016X}", in.Qword(0x08));
     record.processorType = in.Byte(0x05);

@@ -68,7 +68,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type4::Types::Type4Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type4::Types::Type4Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -29,7 +29,7 @@ constexpr auto kOnboardDeviceTypeNames = ByteTable({
 
 constinit const ParseRules Type_41::kRules = {.versions = VersionAtLeast(v2_6_0)};
 
-void Type_41::DecodeFields(StructureReader& in, Type41Struct& record) {
+void Type_41::DecodeFieldsInOrder(StructureReader& in, Type41Struct& record) {
     const auto deviceType = static_cast<std::uint8_t>(in.Byte(0x05) & 0x7F);
 
     record.deviceNumber = static_cast<std::uint8_t>(in.Byte(0x0A) >> 3);

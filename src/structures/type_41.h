@@ -34,7 +34,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type41::Types::Type41Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type41::Types::Type41Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

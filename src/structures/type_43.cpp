@@ -38,7 +38,7 @@ std::string FirmwareVersionOf(const StructureReader& in) {
 
 constinit const ParseRules Type_43::kRules = {.lengths = LengthExactly(0x1F)};
 
-void Type_43::DecodeFields(StructureReader& in, Type43Struct& record) {
+void Type_43::DecodeFieldsInOrder(StructureReader& in, Type43Struct& record) {
     record.firmwareVersion1 = in.Dword(0x0A);
     record.oemDefined = in.Dword(0x1B);
     record.majorSpecVersion = in.Byte(0x08);

@@ -37,7 +37,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type43::Types::Type43Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type43::Types::Type43Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

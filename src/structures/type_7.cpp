@@ -96,7 +96,7 @@ constinit const ParseRules Type_7::kRules = {
     .gates = kGates,
 };
 
-void Type_7::DecodeFields(StructureReader& in, Type7Struct& record) {
+void Type_7::DecodeFieldsInOrder(StructureReader& in, Type7Struct& record) {
     DecodeConfiguration(in, record);
     record.socketDesignation = in.String(0x04);
     record.currentSramType = MakeBitSet(in.Word(0x0D), 16, kSramTypeNames);

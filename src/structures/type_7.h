@@ -45,7 +45,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type7::Types::Type7Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type7::Types::Type7Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -12,7 +12,7 @@ constinit const ParseRules Type_8::kRules = {
     .lengths = LengthAtLeast(0x09),
 };
 
-void Type_8::DecodeFields(StructureReader& in, Type8Struct& record) {
+void Type_8::DecodeFieldsInOrder(StructureReader& in, Type8Struct& record) {
     record.internalConnectorType = in.Byte(0x05);
     record.externalConnectorType = in.Byte(0x07);
     record.portType = in.Byte(0x08);

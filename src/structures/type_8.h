@@ -34,7 +34,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type8::Types::Type8Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type8::Types::Type8Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

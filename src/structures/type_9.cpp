@@ -147,7 +147,7 @@ constinit const ParseRules Type_9::kRules = {
     .gates = kGates,
 };
 
-void Type_9::DecodeFields(StructureReader& in, Type9Struct& record) {
+void Type_9::DecodeFieldsInOrder(StructureReader& in, Type9Struct& record) {
     record.slotId = in.Word(0x09);
     record.slotType = in.Byte(0x05);
     record.slotLength = in.Byte(0x08);

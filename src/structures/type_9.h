@@ -63,7 +63,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, Type9::Types::Type9Struct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, Type9::Types::Type9Struct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -12,6 +12,6 @@ void UnknownType::Parse(const std::vector<std::uint8_t>& formattedBytes) {
     record.handle = area.Handle();
 }
 
-void UnknownType::DecodeFields(StructureReader&, TypeUnknown::Types::TypeUnknownStruct&) {}
+void UnknownType::DecodeFieldsInOrder(StructureReader&, TypeUnknown::Types::TypeUnknownStruct&) {}
 
 }  // namespace SMBIOS::Structures

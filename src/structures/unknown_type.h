@@ -33,7 +33,7 @@ public:
 private:
     friend Decoder;
     static const ParseRules kRules;
-    static void DecodeFields(StructureReader& in, TypeUnknown::Types::TypeUnknownStruct& record);
+    static void DecodeFieldsInOrder(StructureReader& in, TypeUnknown::Types::TypeUnknownStruct& record);
 };
 
 }  // namespace SMBIOS::Structures

@@ -33,7 +33,7 @@ public:
 
 private:
     static constexpr ParseRules kRules = {.strings = rule};
-    static void DecodeFields(StructureReader& in, ProbeRecord& record) {
+    static void DecodeFieldsInOrder(StructureReader& in, ProbeRecord& record) {
         record.first = in.Byte(0x05);
         if (in.Byte(0x04) == 1) {
             throw std::length_error("too long");

@@ -25,10 +25,10 @@ std::string ErrorOf(const Words& words) {
 TEST(Options, WithoutACommandTheSummaryIsMeant) {
     const Options options = ParseOptions({});
     EXPECT_EQ(options.command, Command::summary);
-    EXPECT_EQ(options.from, std::nullopt);
-    EXPECT_FALSE(options.json);
+    EXPECT_EQ(options.report.from, std::nullopt);
+    EXPECT_FALSE(options.report.json);
     EXPECT_FALSE(options.force);
-    EXPECT_TRUE(options.types.empty());
+    EXPECT_TRUE(options.report.types.empty());
     EXPECT_EQ(options.target, "");
 }
 
@@ -45,9 +45,9 @@ TEST(Options, NameTheFileToSaveTo) {
 }
 
 TEST(Options, TakeTheFileToReadInBothSpellings) {
-    EXPECT_EQ(ParseOptions(Words{"memory", "--from", "file"}).from, "file");
-    EXPECT_EQ(ParseOptions(Words{"memory", "--from=file"}).from, "file");
-    EXPECT_EQ(ParseOptions(Words{"--from=a=b"}).from, "a=b");
+    EXPECT_EQ(ParseOptions(Words{"memory", "--from", "file"}).report.from, "file");
+    EXPECT_EQ(ParseOptions(Words{"memory", "--from=file"}).report.from, "file");
+    EXPECT_EQ(ParseOptions(Words{"--from=a=b"}).report.from, "a=b");
 }
 
 TEST(Options, TakeTheFileToReadForEveryCommand) {
@@ -57,24 +57,24 @@ TEST(Options, TakeTheFileToReadForEveryCommand) {
                                Words{"processors", "--from=x"},
                                Words{"structures", "--from=x"},
                                Words{"save", "file", "--from=x"}}) {
-        EXPECT_EQ(ParseOptions(words).from, "x") << words[0];
+        EXPECT_EQ(ParseOptions(words).report.from, "x") << words[0];
     }
 }
 
 TEST(Options, ADashIsStandardInput) {
-    EXPECT_EQ(ParseOptions(Words{"--from", "-"}).from, "-");
-    EXPECT_EQ(ParseOptions(Words{"--from=-"}).from, "-");
+    EXPECT_EQ(ParseOptions(Words{"--from", "-"}).report.from, "-");
+    EXPECT_EQ(ParseOptions(Words{"--from=-"}).report.from, "-");
 }
 
 TEST(Options, TakeTypesInBothSpellingsAndSeveralTimes) {
     const Options options =
         ParseOptions(Words{"structures", "--type", "17", "--type=0", "--type=255", "--type", "17"});
-    EXPECT_EQ(options.types, (std::set<std::uint8_t>{0, 17, 255}));
+    EXPECT_EQ(options.report.types, (std::set<std::uint8_t>{0, 17, 255}));
 }
 
 TEST(Options, TakeJsonWhereThereIsSome) {
     for (const std::string_view command : {"memory", "processors", "structures"}) {
-        EXPECT_TRUE(ParseOptions(Words{command, "--json"}).json) << command;
+        EXPECT_TRUE(ParseOptions(Words{command, "--json"}).report.json) << command;
     }
 }
 
@@ -85,7 +85,7 @@ TEST(Options, TakeForceForSave) {
 TEST(Options, StandInAnyOrder) {
     const Options options = ParseOptions(Words{"--from", "in", "--force", "save", "out"});
     EXPECT_EQ(options.command, Command::save);
-    EXPECT_EQ(options.from, "in");
+    EXPECT_EQ(options.report.from, "in");
     EXPECT_EQ(options.target, "out");
     EXPECT_TRUE(options.force);
 }

@@ -52,7 +52,7 @@ protected:
 
     static std::string Report(bool json, const Inspect::OutputStyle& style = {}) {
         std::ostringstream output;
-        Inspect::ReportMemory({.command = Inspect::Command::memory, .json = json}, style, output);
+        Inspect::ReportMemory({.json = json}, style, output);
         return output.str();
     }
 

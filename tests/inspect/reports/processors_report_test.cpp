@@ -49,7 +49,7 @@ protected:
 
     static std::string Report(bool json) {
         std::ostringstream output;
-        Inspect::ReportProcessors({.command = Inspect::Command::processors, .json = json}, {}, output);
+        Inspect::ReportProcessors({.json = json}, {}, output);
         return output.str();
     }
 

@@ -13,11 +13,11 @@ namespace SMBIOS::Tests {
 
 /// What `smbios-inspect structures` prints of this table. Once per process.
 inline std::string StructuresReport(std::vector<std::uint8_t> table,
-                                    const Inspect::Options& options,
+                                    const Inspect::Request& request,
                                     const Inspect::OutputStyle& style = {}) {
     const FakeFirmwareTable firmware(std::move(table));
     std::ostringstream output;
-    Inspect::ReportStructures(options, style, output);
+    Inspect::ReportStructures(request, style, output);
     return output.str();
 }
 

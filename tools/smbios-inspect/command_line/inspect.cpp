@@ -22,13 +22,13 @@ void Report(const Options& options, const OutputStyle& style, std::ostream& outp
             ReportSummary(style, output);
             break;
         case Command::memory:
-            ReportMemory(options, style, output);
+            ReportMemory(options.report, style, output);
             break;
         case Command::processors:
-            ReportProcessors(options, style, output);
+            ReportProcessors(options.report, style, output);
             break;
         case Command::structures:
-            ReportStructures(options, style, output);
+            ReportStructures(options.report, style, output);
             break;
         case Command::save:
             SaveTable(options.target, options.force);
@@ -54,7 +54,7 @@ int Run(std::span<const std::string_view> arguments,
         std::ostream& errors) {
     try {
         const Options options = ParseOptions(arguments);
-        const TableInput table = NeedsTable(options.command) ? TableInput(options.from) : TableInput();
+        const TableInput table = NeedsTable(options.command) ? TableInput(options.report.from) : TableInput();
         Report(options, style, output);
         return kSuccess;
     } catch (const UsageError& error) {

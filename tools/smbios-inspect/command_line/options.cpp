@@ -82,13 +82,13 @@ private:
 /// Reads one argument; false when it is no option.
 bool ReadOption(ArgumentReader& reader, Options& options) {
     if (reader.Argument() == "--json") {
-        options.json = true;
+        options.report.json = true;
     } else if (reader.Argument() == "--force") {
         options.force = true;
     } else if (const auto file = reader.ValueOf("--from")) {
-        options.from = *file;
+        options.report.from = *file;
     } else if (const auto type = reader.ValueOf("--type")) {
-        options.types.insert(TypeNumberOf(*type));
+        options.report.types.insert(TypeNumberOf(*type));
     } else if (reader.Argument().starts_with("-")) {
         throw UsageError("unknown option " + std::string(reader.Argument()));
     } else {
@@ -107,8 +107,8 @@ void RequireThat(bool holds, const CommandSyntax& syntax, std::string_view probl
 void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     const CommandSyntax& syntax = words.empty() ? kCommands[0] : SyntaxOf(words[0]);
     options.command = syntax.command;
-    RequireThat(syntax.takesJson || !options.json, syntax, "does not take --json");
-    RequireThat(syntax.takesTypes || options.types.empty(), syntax, "does not take --type");
+    RequireThat(syntax.takesJson || !options.report.json, syntax, "does not take --json");
+    RequireThat(syntax.takesTypes || options.report.types.empty(), syntax, "does not take --type");
     RequireThat(syntax.takesTarget || !options.force, syntax, "does not take --force");
     const bool hasTarget = words.size() >= 2 && !words[1].empty();
     RequireThat(!syntax.takesTarget || hasTarget, syntax, "needs the file to write");

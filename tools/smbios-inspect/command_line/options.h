@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <set>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "smbios-inspect/reports/request.h"
 
 namespace SMBIOS::Inspect {
 
@@ -15,11 +15,9 @@ enum class Command : std::uint8_t { summary, memory, processors, structures, sav
 /// What the command line asks for.
 struct Options {
     Command command = Command::summary;
-    std::optional<std::string> from = std::nullopt;  ///< the saved table to read instead of the machine's
-    bool json = false;
-    std::set<std::uint8_t> types = {};  ///< of the structures to show; empty for all
-    std::string target = {};            ///< the file to save the table to
-    bool force = false;                 ///< overwrite that file
+    Request report = {};
+    std::string target = {};  ///< the file to save the table to
+    bool force = false;       ///< overwrite that file
 };
 
 /// A command line that asks for nothing the tool can do; what() says why.

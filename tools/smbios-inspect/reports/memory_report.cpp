@@ -139,10 +139,10 @@ void PrintText(const MemoryInfo& info, const OutputStyle& style, std::ostream& o
 
 }  // namespace
 
-void ReportMemory(const Options& options, const OutputStyle& style, std::ostream& output) {
+void ReportMemory(const Request& request, const OutputStyle& style, std::ostream& output) {
     MemoryInfo info;
     info.RetrieveInfo();
-    if (options.json) {
+    if (request.json) {
         PrintJson(RowsToJson("devices", info, info.GetMemoryDeviceCount(), kValues), output);
     } else {
         PrintText(info, style, output);

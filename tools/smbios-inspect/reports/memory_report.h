@@ -2,12 +2,12 @@
 
 #include <iosfwd>
 
-#include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/output/output_style.h"
+#include "smbios-inspect/reports/request.h"
 
 namespace SMBIOS::Inspect {
 
 /// Prints the memory devices as `MemoryInfo` gives them. Throws what its RetrieveInfo throws.
-void ReportMemory(const Options& options, const OutputStyle& style, std::ostream& output);
+void ReportMemory(const Request& request, const OutputStyle& style, std::ostream& output);
 
 }  // namespace SMBIOS::Inspect

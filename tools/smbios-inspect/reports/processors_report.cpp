@@ -141,10 +141,10 @@ void PrintText(const ProcessorInfo& info, const OutputStyle& style, std::ostream
 
 }  // namespace
 
-void ReportProcessors(const Options& options, const OutputStyle& style, std::ostream& output) {
+void ReportProcessors(const Request& request, const OutputStyle& style, std::ostream& output) {
     ProcessorInfo info;
     info.RetrieveInfo();
-    if (options.json) {
+    if (request.json) {
         PrintJson(RowsToJson("processors", info, info.GetCPUCount(), kValues), output);
     } else {
         PrintText(info, style, output);

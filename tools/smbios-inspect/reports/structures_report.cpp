@@ -14,14 +14,14 @@ using Manager::DecodedTable;
 
 namespace {
 
-bool IsAskedFor(const FiledStructure& structure, const Options& options) {
-    return options.types.empty() || options.types.contains(TypeOf(structure));
+bool IsAskedFor(const FiledStructure& structure, const Request& request) {
+    return request.types.empty() || request.types.contains(TypeOf(structure));
 }
 
-void PrintAsJson(const DecodedTable& table, const Options& options, std::ostream& output) {
+void PrintAsJson(const DecodedTable& table, const Request& request, std::ostream& output) {
     Json list = Json::array();
     for (const FiledStructure& structure : table.structures) {
-        if (IsAskedFor(structure, options)) {
+        if (IsAskedFor(structure, request)) {
             list.push_back(StructureToJson(structure));
         }
     }
@@ -32,30 +32,30 @@ void PrintAsJson(const DecodedTable& table, const Options& options, std::ostream
 }
 
 void PrintAsText(const DecodedTable& table,
-                 const Options& options,
+                 const Request& request,
                  const OutputStyle& style,
                  std::ostream& output) {
     bool isFirst = true;
     for (const FiledStructure& structure : table.structures) {
-        if (IsAskedFor(structure, options)) {
+        if (IsAskedFor(structure, request)) {
             output << (isFirst ? "" : "\n");
             PrintStructure(structure, style, output);
             isFirst = false;
         }
     }
     if (isFirst) {
-        output << "The table holds no " << (options.types.empty() ? "" : "such ") << "structure.\n";
+        output << "The table holds no " << (request.types.empty() ? "" : "such ") << "structure.\n";
     }
 }
 
 }  // namespace
 
-void ReportStructures(const Options& options, const OutputStyle& style, std::ostream& output) {
+void ReportStructures(const Request& request, const OutputStyle& style, std::ostream& output) {
     const DecodedTable table = Manager::DecodeTable(Manager::ReadRawTable());
-    if (options.json) {
-        PrintAsJson(table, options, output);
+    if (request.json) {
+        PrintAsJson(table, request, output);
     } else {
-        PrintAsText(table, options, style, output);
+        PrintAsText(table, request, style, output);
     }
 }
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace SMBIOS::Inspect {
+
+/// What a report is asked for. Each report looks at what concerns it.
+struct Request {
+    std::optional<std::string> from = std::nullopt;  ///< the saved table in place of the machine's
+    bool json = false;
+    std::set<std::uint8_t> types = {};  ///< of the structures to show; empty for all
+};
+
+}  // namespace SMBIOS::Inspect
