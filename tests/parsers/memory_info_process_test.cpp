@@ -79,7 +79,7 @@ TEST(MemoryInfoProcess, SeveralDevicesAreCompleted) {
 
 TEST(MemoryInfoProcess, ADeviceWithoutSerialNumberWidensTheQuery) {
     const StandInPowerShell powershell(R"({"SerialNumber":"W","Capacity":1})");
-    const FakeFirmwareTable firmware(TableBuilder(2, 8, 0).Add(Device("")).RawTable());
+    const FakeFirmwareTable firmware(TableBuilder(2, 8, 0).Add(Device("A").Byte(0x18, 0)).RawTable());
     MemoryInfo info;
     info.RetrieveInfo();
 

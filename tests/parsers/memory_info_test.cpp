@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -51,6 +52,11 @@ StructureBuilder FullDevice(const std::string& serialNumber) {
         .Word(0x26, 1200);
 }
 
+/// The same with string number 0, none, for its serial number; an empty text would end the string set.
+StructureBuilder DeviceWithoutSerialNumber() {
+    return FullDevice("not referred to").Byte(0x18, 0);
+}
+
 std::vector<std::uint8_t> TableOf(const std::vector<StructureBuilder>& devices) {
     TableBuilder table(2, 8, 0);
     for (const StructureBuilder& device : devices) {
@@ -65,6 +71,11 @@ protected:
     void Load(const std::vector<StructureBuilder>& devices) {
         firmware_.Supply(TableOf(devices));
         info_.RetrieveInfo();
+        EXPECT_EQ(FirmwareDevices().size(), devices.size()) << "a string set of the table ended early";
+    }
+
+    static std::vector<std::shared_ptr<Structures::BaseStructure>> FirmwareDevices() {
+        return SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice);
     }
 
     std::vector<std::string> SerialNumbers() const {
@@ -289,16 +300,14 @@ TEST_F(MemoryInfoTest, EachTypeDetailFlagFollowsItsOwnBit) {
 
 TEST_F(MemoryInfoTest, TypeDetailFlagsWithoutTheWordGive65535) {
     Load({FullDevice("S")});
-    const auto structures = SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice);
-    std::dynamic_pointer_cast<Type_17>(structures.at(0))->GetRecord()->typeDetail.reset();
+    std::dynamic_pointer_cast<Type_17>(FirmwareDevices().at(0))->GetRecord()->typeDetail.reset();
     info_.RetrieveInfo();
     EXPECT_EQ(info_.GetBitsetTypeDetail(0).typeDetailWord, 65535);
 }
 
 TEST_F(MemoryInfoTest, ATypeDetailThatIsTooNarrowThrows) {
     Load({FullDevice("S")});
-    const auto structures = SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice);
-    std::dynamic_pointer_cast<Type_17>(structures.at(0))->GetRecord()->typeDetailFlags->Assign(0, 14);
+    std::dynamic_pointer_cast<Type_17>(FirmwareDevices().at(0))->GetRecord()->typeDetailFlags->Assign(0, 14);
     info_.RetrieveInfo();
     try {
         (void)info_.GetBitsetTypeDetail(0);
@@ -394,6 +403,24 @@ TEST_F(MemoryInfoTest, SeveralDevicesAreFilteredInTableOrderWithDuplicates) {
                                 "SerialNumber = 'B' OR SerialNumber = 'A' OR SerialNumber = 'B'")});
 }
 
+TEST_F(MemoryInfoTest, ACompleteDeviceBesideAnIncompleteOneIsNotAskedFor) {
+    powershell_.Answer(R"({"SerialNumber":"A","PositionInRow":1})");
+    Load({FullDevice("A"), FullDevice("B")});
+    info_.RetrieveInfo();
+    ASSERT_EQ(powershell_.CommandLines().size(), 2U);
+    EXPECT_EQ(powershell_.CommandLines()[1],
+              CommandLineOf(
+                  "SELECT PositionInRow, SerialNumber FROM Win32_PhysicalMemory WHERE SerialNumber = 'B'"));
+}
+
+TEST_F(MemoryInfoTest, OfOneSerialNumberEachDeviceIsAskedForWhatItLacksItself) {
+    Load({FullDevice("S"), FullDevice("S").Byte(0x19, 0)});
+    EXPECT_EQ(powershell_.CommandLines(),
+              std::vector<std::string>{
+                  CommandLineOf("SELECT PositionInRow, SerialNumber, Tag FROM Win32_PhysicalMemory WHERE "
+                                "SerialNumber = 'S' OR SerialNumber = 'S'")});
+}
+
 TEST_F(MemoryInfoTest, EveryMissingFieldIsAskedForByItsProperty) {
     // The codes and the detail word are present whatever their value.
     const StructureBuilder bare =
@@ -410,7 +437,7 @@ TEST_F(MemoryInfoTest, EveryMissingFieldIsAskedForByItsProperty) {
 
 TEST_F(MemoryInfoTest, AFirstDeviceWithoutSerialNumberWidensTheQueryToEverything) {
     powershell_.Answer(R"([{"SerialNumber":"W2","Capacity":8589934592},{"SerialNumber":"W1","Speed":2400}])");
-    Load({FullDevice(""), FullDevice("A")});
+    Load({DeviceWithoutSerialNumber(), FullDevice("A")});
     EXPECT_EQ(powershell_.CommandLines(), std::vector<std::string>{CommandLineOf(kAllProperties)});
     EXPECT_EQ(SerialNumbers(), (std::vector<std::string>{"W1", "W2"}));
 }
@@ -419,7 +446,7 @@ TEST_F(MemoryInfoTest, ARowThatOnlyWmiKnowsHoldsOnlyItsValues) {
     powershell_.Answer(
         R"({"SerialNumber":"W","Capacity":8589934592,"TypeDetail":128,"FormFactor":8,"Speed":2400,
                            "SMBIOSMemoryType":26,"Tag":"Physical Memory 0","DeviceLocator":"DIMM 1"})");
-    Load({FullDevice("")});
+    Load({DeviceWithoutSerialNumber()});
     ASSERT_EQ(info_.GetMemoryDeviceCount(), 1U);
     EXPECT_EQ(info_.GetSizeInKB(0), 8589934592U);
     EXPECT_EQ(info_.GetSpeed(0), 2400U);
@@ -431,8 +458,6 @@ TEST_F(MemoryInfoTest, ARowThatOnlyWmiKnowsHoldsOnlyItsValues) {
 
     EXPECT_EQ(info_.GetStringifiedFormFactor(0), nullptr);
     EXPECT_EQ(info_.GetStringifiedMemoryType(0), nullptr);
-    EXPECT_EQ(info_.GetPhysicalMemoryArrayHandle(0), 65535);
-    EXPECT_EQ(info_.GetMinVoltageInmV(0), 65535);
     EXPECT_FALSE(info_.GetBitsetTypeDetail(0).synchronous.isSet);
     EXPECT_EQ(info_.GetBitsetTypeDetail(0).typeDetailWord, 0);
     std::size_t size = 99;
@@ -441,9 +466,30 @@ TEST_F(MemoryInfoTest, ARowThatOnlyWmiKnowsHoldsOnlyItsValues) {
     EXPECT_EQ(info_.GetStringSessionSize(0), 0U);
 }
 
+TEST_F(MemoryInfoTest, ARowThatOnlyWmiKnowsHasNoHandleAndNoVoltage) {
+    powershell_.Answer(R"({"SerialNumber":"W"})");
+    Load({DeviceWithoutSerialNumber()});
+    ASSERT_EQ(info_.GetMemoryDeviceCount(), 1U);
+    EXPECT_EQ(info_.GetPhysicalMemoryArrayHandle(0), 65535);
+    EXPECT_EQ(info_.GetMemoryErrorInformationHandle(0), 65535);
+    EXPECT_EQ(info_.GetMinVoltageInmV(0), 65535);
+    EXPECT_EQ(info_.GetMaxVoltageInmV(0), 65535);
+    EXPECT_EQ(info_.GetConfiguredVoltageInmV(0), 65535);
+}
+
+TEST_F(MemoryInfoTest, AWidenedQueryGivesOneRowForEachSerialNumber) {
+    powershell_.Answer(
+        R"([{"SerialNumber":"W2","Speed":1},{"SerialNumber":"W1","Speed":2},{"SerialNumber":"W2","Speed":3},
+            {"SerialNumber":"W1","Speed":4}])");
+    Load({DeviceWithoutSerialNumber(), DeviceWithoutSerialNumber()});
+    EXPECT_EQ(SerialNumbers(), (std::vector<std::string>{"W1", "W2"}));
+    EXPECT_EQ(info_.GetSpeed(0), 2U);
+    EXPECT_EQ(info_.GetSpeed(1), 1U);
+}
+
 TEST_F(MemoryInfoTest, DevicesFiledBeforeTheWideningStayAndLaterOnesDoNot) {
     powershell_.FailToStart();
-    Load({FullDevice("A"), FullDevice(""), FullDevice("C")});
+    Load({FullDevice("A"), DeviceWithoutSerialNumber(), FullDevice("C")});
     EXPECT_EQ(powershell_.CommandLines(), std::vector<std::string>{CommandLineOf(kAllProperties)});
     EXPECT_EQ(SerialNumbers(), std::vector<std::string>{"A"});
 }
@@ -466,7 +512,7 @@ TEST_F(MemoryInfoTest, EveryPropertyIsStoredInItsField) {
         R"({"SerialNumber":"S","DataWidth":1,"TotalWidth":2,"FormFactor":3,"DeviceLocator":"loc",
         "TypeDetail":4,"Speed":70000,"Manufacturer":"man","Tag":"tag","PartNumber":"part","Attributes":9,
         "BankLabel":"bank","BankLocator":"bank","PositionInRow":5,"Capacity":68719476736,"SMBIOSMemoryType":6})");
-    Load({FullDevice("")});
+    Load({DeviceWithoutSerialNumber()});
     EXPECT_EQ(info_.GetDataWidth(0), 1);
     EXPECT_EQ(info_.GetTotalWidth(0), 2);
     EXPECT_EQ(info_.GetFormFactor(0), 3);
@@ -507,6 +553,12 @@ TEST_F(MemoryInfoTest, WhatWasNotAskedForIsNotStored) {
     EXPECT_EQ(info_.GetSpeed(0), 3200U);
 }
 
+TEST_F(MemoryInfoTest, AnEmptyTextThatWasAskedForIsStored) {
+    powershell_.Answer(R"({"SerialNumber":"B","Tag":"","PositionInRow":1})");
+    Load({FullDevice("A").Byte(0x19, 0), FullDevice("B")});
+    EXPECT_EQ(info_.GetAssetTag(1), nullptr);
+}
+
 TEST_F(MemoryInfoTest, ANullMemberEndsTheCompletionAndKeepsWhatWasStored) {
     powershell_.Answer(
         R"([{"SerialNumber":"A","Manufacturer":"kept","PositionInRow":null,"Tag":"not reached"},
@@ -520,7 +572,7 @@ TEST_F(MemoryInfoTest, ANullMemberEndsTheCompletionAndKeepsWhatWasStored) {
 
 TEST_F(MemoryInfoTest, ANewRowWhoseFirstMemberHasTheWrongTypeIsListedAllTheSame) {
     powershell_.Answer(R"({"SerialNumber":"N","Attributes":"text","Speed":1})");
-    Load({FullDevice("")});
+    Load({DeviceWithoutSerialNumber()});
     ASSERT_EQ(info_.GetMemoryDeviceCount(), 1U);
     EXPECT_EQ(info_.GetSerialNumber(0), nullptr);
     EXPECT_EQ(info_.GetSpeed(0), 4294967295U);
@@ -552,6 +604,14 @@ TEST_F(MemoryInfoTest, AnAnswerForAnUnknownSerialNumberAddsARow) {
     EXPECT_EQ(info_.GetPositionInRow(1), 4);
 }
 
+TEST_F(MemoryInfoTest, SerialNumbersThatDifferInCaseAreOfDifferentDevices) {
+    powershell_.Answer(R"({"SerialNumber":"ab","PositionInRow":4})");
+    Load({FullDevice("AB")});
+    EXPECT_EQ(SerialNumbers(), (std::vector<std::string>{"AB", "ab"}));
+    EXPECT_EQ(info_.GetPositionInRow(0), 255);
+    EXPECT_EQ(info_.GetPositionInRow(1), 4);
+}
+
 TEST_F(MemoryInfoTest, FailuresOfTheCompletionLeaveTheFirmwaresRows) {
     for (const char* const answer :
          {"", "Get-WmiObject : Invalid class", R"([{"SerialNumber":"A",)", "[]", "null"}) {
@@ -570,7 +630,7 @@ TEST_F(MemoryInfoTest, WithoutPowerShellTheFirmwaresRowsStand) {
 
 TEST_F(MemoryInfoTest, RowsOfEarlierCallsStay) {
     powershell_.Answer(R"({"SerialNumber":"W","Speed":2400})");
-    Load({FullDevice("")});
+    Load({DeviceWithoutSerialNumber()});
     powershell_.Answer("");
     info_.RetrieveInfo();
     EXPECT_EQ(SerialNumbers(), std::vector<std::string>{"W"});
@@ -579,8 +639,7 @@ TEST_F(MemoryInfoTest, RowsOfEarlierCallsStay) {
 TEST_F(MemoryInfoTest, CompletionWritesIntoTheDecodersRecord) {
     powershell_.Answer(R"({"SerialNumber":"A","PositionInRow":3})");
     Load({FullDevice("A")});
-    const auto structures = SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice);
-    EXPECT_EQ(std::dynamic_pointer_cast<Type_17>(structures.at(0))->GetRecord()->positionInRow, 3);
+    EXPECT_EQ(std::dynamic_pointer_cast<Type_17>(FirmwareDevices().at(0))->GetRecord()->positionInRow, 3);
 }
 
 TEST_F(MemoryInfoTest, FirmwareTextsStayNullWhenEmpty) {

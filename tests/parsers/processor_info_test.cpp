@@ -63,6 +63,13 @@ TableBuilder TableWithCaches() {
     return TableBuilder(3, 0, 0).Add(Cache(0x0071, 512)).Add(Cache(0x0072, 2048)).Add(Cache(0x0073, 16384));
 }
 
+/// As an earlier call's completion would have left them.
+void SupplyCacheSizes(Type4Struct& processor) {
+    processor.l1CacheSize = 64;
+    processor.l2CacheSize = 1280;
+    processor.l3CacheSize = 8192;
+}
+
 std::vector<std::uint8_t> TableOf(const std::vector<StructureBuilder>& processors) {
     TableBuilder table = TableWithCaches();
     for (const StructureBuilder& processor : processors) {
@@ -254,6 +261,22 @@ TEST_F(ProcessorInfoTest, AVoltageListIsNoValue) {
     EXPECT_EQ(info_.GetNonLegacyVoltageValue(0), 3.4028235e38F);
 }
 
+TEST_F(ProcessorInfoTest, AVoltageListMayBeEmpty) {
+    Load({FullProcessor(kId).Byte(0x11, 0x00)});
+    EXPECT_TRUE(info_.IsLegacyVoltageInfo(0));
+    EXPECT_EQ(info_.GetLegacyVoltageInfoSize(0), 0U);
+    EXPECT_EQ(info_.GetLegacyVoltageInfo(0, 0), nullptr);
+}
+
+TEST_F(ProcessorInfoTest, AVoltageListEndsWithItsLastEntryHoweverManyItHas) {
+    Load({FullProcessor(kId)});
+    FirstRecord()->supportedVoltages = {"5V", "3.3V", "2.9V", "1.8V"};
+    info_.RetrieveInfo();
+    EXPECT_EQ(info_.GetLegacyVoltageInfoSize(0), 4U);
+    EXPECT_STREQ(info_.GetLegacyVoltageInfo(0, 3), "1.8V");
+    EXPECT_EQ(info_.GetLegacyVoltageInfo(0, 4), nullptr);
+}
+
 TEST_F(ProcessorInfoTest, TheMaskedVoltageByteShowsInTheRawData) {
     Load({FullProcessor(kId).Byte(0x11, 0x7A)});
     std::size_t size = 0;
@@ -302,6 +325,18 @@ TEST_F(ProcessorInfoTest, EachCharacteristicFollowsItsOwnBit) {
             EXPECT_EQ(flags[flag].value, flag + 2 == bit) << "bit " << bit << " flag " << flag;
             EXPECT_TRUE(flags[flag].isSet);
         }
+    }
+}
+
+TEST_F(ProcessorInfoTest, TheLowCharacteristicsAreTheLowByteAsItIs) {
+    std::vector<StructureBuilder> processors;
+    for (std::uint64_t bit = 0; bit < 16; ++bit) {
+        processors.push_back(FullProcessor(bit).Word(0x26, static_cast<std::uint16_t>(1U << bit)));
+    }
+    Load(processors);
+    ASSERT_EQ(info_.GetCPUCount(), 16U);
+    for (std::size_t bit = 0; bit < 16; ++bit) {
+        EXPECT_EQ(info_.GetProcessorCharacteristics(bit).characteristicsLow, bit < 8 ? 1 << bit : 0);
     }
 }
 
@@ -386,6 +421,38 @@ TEST_F(ProcessorInfoTest, CachesAreLinkedAgainAtEachCall) {
     EXPECT_EQ(info_.GetL2CacheSizeInKB(0), 18446744073709551615U);
 }
 
+TEST_F(ProcessorInfoTest, ACacheHandleThatNamesNothingLosesTheSizeOfAnEarlierCall) {
+    powershell_.FailToStart();
+    Load({FullProcessor(kId).Word(0x1A, 0x0097).Word(0x1C, 0x0098).Word(0x1E, 0x0099)});
+    SupplyCacheSizes(*FirstRecord());
+    info_.RetrieveInfo();
+    EXPECT_EQ(info_.GetL1CacheSizeInKB(0), 18446744073709551615U);
+    EXPECT_EQ(info_.GetL2CacheSizeInKB(0), 18446744073709551615U);
+    EXPECT_EQ(info_.GetL3CacheSizeInKB(0), 18446744073709551615U);
+}
+
+TEST_F(ProcessorInfoTest, AnAbsentCacheHandleLosesTheSizeOfAnEarlierCall) {
+    powershell_.FailToStart();
+    Load({FullProcessor(kId).Word(0x1A, 0xFFFF).Word(0x1C, 0xFFFF).Word(0x1E, 0xFFFF)});
+    SupplyCacheSizes(*FirstRecord());
+    info_.RetrieveInfo();
+    EXPECT_EQ(info_.GetL1CacheSizeInKB(0), 18446744073709551615U);
+    EXPECT_EQ(info_.GetL2CacheSizeInKB(0), 18446744073709551615U);
+    EXPECT_EQ(info_.GetL3CacheSizeInKB(0), 18446744073709551615U);
+}
+
+TEST_F(ProcessorInfoTest, ACacheSizeThatOnlyWmiKnowsIsAskedForAtEachCall) {
+    powershell_.Answer(
+        R"({"ProcessorId":"BFEBFBFF000906A5","AddressWidth":64,"Caption":"c","DataWidth":64,"Description":"d",
+            "DeviceID":"CPU0","L2CacheSize":1280,"L3CacheSize":8192,"MaxClockSpeed":4700})");
+    Load({FullProcessor(kId).Word(0x1C, 0xFFFF).Word(0x1E, 0x0099)});
+    info_.RetrieveInfo();
+    ASSERT_EQ(powershell_.CommandLines().size(), 2U);
+    EXPECT_EQ(powershell_.CommandLines()[1],
+              CommandLineOf("SELECT L2CacheSize, L3CacheSize, Manufacturer, ProcessorId FROM Win32_Processor "
+                            "WHERE ProcessorId = 'BFEBFBFF000906A5'"));
+}
+
 // Filing
 
 TEST_F(ProcessorInfoTest, RowsStandInAscendingProcessorIdOrder) {
@@ -425,6 +492,16 @@ TEST_F(ProcessorInfoTest, EveryFiledProcessorIsInTheFilterInTableOrder) {
             "SELECT AddressWidth, Caption, DataWidth, Description, DeviceID, Manufacturer, MaxClockSpeed, "
             "ProcessorId FROM Win32_Processor WHERE ProcessorId = '0000000000000002' OR ProcessorId = "
             "'0000000000000001' OR ProcessorId = '0000000000000002'")});
+}
+
+TEST_F(ProcessorInfoTest, OfOneProcessorIdEachProcessorIsAskedForWhatItLacksItself) {
+    Load({FullProcessor(1), FullProcessor(1).Byte(0x10, 0)});
+    EXPECT_EQ(
+        powershell_.CommandLines(),
+        std::vector<std::string>{CommandLineOf(
+            "SELECT AddressWidth, Caption, DataWidth, Description, DeviceID, Manufacturer, MaxClockSpeed, "
+            "Name, ProcessorId FROM Win32_Processor WHERE ProcessorId = '0000000000000001' OR ProcessorId = "
+            "'0000000000000001'")});
 }
 
 TEST_F(ProcessorInfoTest, VirtualizationIsAskedForWhereTheTableIsTooOldToTellIt) {
@@ -499,6 +576,12 @@ TEST_F(ProcessorInfoTest, AManufacturerFromWmiReplacesTheFirmwares) {
     EXPECT_STREQ(info_.GetManufacturer(0), "GenuineMaker");
 }
 
+TEST_F(ProcessorInfoTest, AnEmptyTextThatWasAskedForIsStored) {
+    powershell_.Answer(R"({"ProcessorId":"0000000000000002","Name":""})");
+    Load({FullProcessor(1).Byte(0x10, 0), FullProcessor(2)});
+    EXPECT_EQ(info_.GetVersion(1), nullptr);
+}
+
 TEST_F(ProcessorInfoTest, AnEmptyManufacturerFromWmiIsNotTaken) {
     powershell_.Answer(R"({"ProcessorId":"BFEBFBFF000906A5","Manufacturer":"","MaxClockSpeed":4700})");
     Load({FullProcessor(kId)});
@@ -542,6 +625,14 @@ TEST_F(ProcessorInfoTest, AnAnswerForAnUnknownIdAddsARow) {
     powershell_.Answer(R"([{"ProcessorId":"FFFFFFFFFFFFFFFF","DeviceID":"CPU1"}])");
     Load({FullProcessor(kId)});
     EXPECT_EQ(Ids(), (std::vector<std::string>{kIdText, "FFFFFFFFFFFFFFFF"}));
+    EXPECT_STREQ(info_.GetDeviceId(1), "CPU1");
+}
+
+TEST_F(ProcessorInfoTest, ProcessorIdsThatDifferInCaseAreDifferent) {
+    powershell_.Answer(R"({"ProcessorId":"bfebfbff000906a5","DeviceID":"CPU1"})");
+    Load({FullProcessor(kId)});
+    EXPECT_EQ(Ids(), (std::vector<std::string>{kIdText, "bfebfbff000906a5"}));
+    EXPECT_EQ(info_.GetDeviceId(0), nullptr);
     EXPECT_STREQ(info_.GetDeviceId(1), "CPU1");
 }
 

@@ -69,6 +69,13 @@ TEST(WmiQuery, WhereJoinsValuesWithOr) {
     EXPECT_EQ(query.whereClause, " WHERE SerialNumber = '1A2B3C4D' OR SerialNumber = '5E6F7A8B'");
 }
 
+TEST(WmiQuery, WhereReplacesTheEarlierFilter) {
+    WmiQuery query;
+    query.Where("SerialNumber", {"1A2B3C4D"});
+    query.Where("ProcessorId", {"5E6F7A8B"});
+    EXPECT_EQ(query.whereClause, " WHERE ProcessorId = '5E6F7A8B'");
+}
+
 TEST(WmiQuery, ThreeValuesNeedTwoSeparators) {
     WmiQuery query;
     query.Where("P", {"c", "a", "b"});
@@ -147,6 +154,12 @@ TEST(WmiQuery, ARequestedNullIsKept) {
 TEST(WmiQuery, TheFirstInstanceOfAKeyStays) {
     EXPECT_EQ(Fetched(R"([{"SerialNumber":"A","Capacity":1},{"SerialNumber":"A","Capacity":2}])"),
               json::parse(R"({"A":{"SerialNumber":"A","Capacity":1}})"));
+}
+
+TEST(WmiQuery, KeysThatDifferInCaseAreDifferent) {
+    EXPECT_EQ(
+        Fetched(R"([{"SerialNumber":"ab","Capacity":1},{"SerialNumber":"AB","Capacity":2}])"),
+        json::parse(R"({"ab":{"SerialNumber":"ab","Capacity":1},"AB":{"SerialNumber":"AB","Capacity":2}})"));
 }
 
 TEST(WmiQuery, InstancesWithoutTheKeyAreSkipped) {
