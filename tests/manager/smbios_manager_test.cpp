@@ -2,14 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <exception>
+#include <new>
 #include <thread>
 
 #include "manager/smbios_version.h"
 #include "structures/type_17.h"
 #include "structures/unknown_type.h"
+#include "tests/support/allocation_hook.h"
 #include "tests/support/decode.h"
+#include "tests/support/failing_allocation.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/meeting_point.h"
 
 // The manager is once per process: every test here needs a process of its own.
 namespace SMBIOS::Tests {
@@ -34,6 +39,18 @@ std::string TextOfFailedLoad() {
     return "";
 }
 
+/// Tries a load whose allocations fail from the `n`-th on; tells whether it needed fewer.
+bool LoadsWithMemoryFor(std::size_t n) {
+    SmbiosManager& manager = TheManager();
+    const FailAllocation after(n, Failing::fromThenOn);
+    try {
+        manager.UpdateBiosInfo();
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    return true;
+}
+
 StructureBuilder MemoryDevice(std::uint16_t handle) {
     return {17, 0x28, handle};
 }
@@ -50,6 +67,31 @@ std::vector<std::uint16_t> HandlesOf(StructureTypes type) {
     return handles;
 }
 
+/// Meets at each of its thread's allocations.
+class MeetAtAllocations final : public AllocationHook {
+public:
+    explicit MeetAtAllocations(MeetingPoint& meetingPoint) noexcept : meetingPoint_(meetingPoint) {}
+
+    void BeforeAllocation() override { meetingPoint_.Arrive(); }
+
+private:
+    MeetingPoint& meetingPoint_;
+};
+
+/// What `ask` gives a thread that asks while another one is in the middle of loading `table`.
+template <class Ask>
+auto AnswerDuringALoad(const std::vector<std::uint8_t>& table, Ask ask) {
+    FakeFirmwareTable firmware(table);
+    MeetingPoint middleOfTheLoad;
+    firmware.DuringSizeQuery([&] { middleOfTheLoad.Arrive(); });
+    std::thread loading([] { TheManager().UpdateBiosInfo(); });
+    middleOfTheLoad.AwaitFirstArrival();
+    auto answer = ask();
+    middleOfTheLoad.Arrive();  // nothing holds the load up any longer
+    loading.join();
+    return answer;
+}
+
 // Instance
 
 TEST(SmbiosManager, GetInstanceGivesOneInstance) {
@@ -57,15 +99,30 @@ TEST(SmbiosManager, GetInstanceGivesOneInstance) {
     EXPECT_EQ(SmbiosManager::GetInstance(), SmbiosManager::GetInstance());
 }
 
-TEST(SmbiosManager, TwoThreadsGetTheSameInstance) {
+TEST(SmbiosManager, OfTwoThreadsOneMakesTheInstanceOfBoth) {
     SmbiosManager* first = nullptr;
     SmbiosManager* second = nullptr;
-    std::thread one([&] { first = SmbiosManager::GetInstance(); });
-    std::thread two([&] { second = SmbiosManager::GetInstance(); });
+    MeetingPoint creation;
+    const auto getInstance = [&creation](SmbiosManager*& instance) {
+        const MeetAtAllocations hook(creation);
+        instance = SmbiosManager::GetInstance();
+    };
+    std::thread one([&] { getInstance(first); });
+    std::thread two([&] { getInstance(second); });
     one.join();
     two.join();
     EXPECT_NE(first, nullptr);
     EXPECT_EQ(first, second);
+    EXPECT_EQ(creation.Arrivals(), 1);
+}
+
+TEST(SmbiosManager, AnInstanceThatCannotBeMadeIsTriedAgain) {
+    const auto getInstanceWithoutMemory = [] {
+        const FailAllocation after(1);
+        (void)SmbiosManager::GetInstance();
+    };
+    EXPECT_THROW(getInstanceWithoutMemory(), std::bad_alloc);
+    EXPECT_NE(SmbiosManager::GetInstance(), nullptr);
 }
 
 TEST(SmbiosManager, BeforeALoadThereIsNoStructureAndNoVersion) {
@@ -140,13 +197,49 @@ TEST(SmbiosManager, AFailedLoadFilesNothingAndIsTriedAgain) {
     EXPECT_EQ(HandlesOf(StructureTypes::MemoryDevice), std::vector<std::uint16_t>{7});
 }
 
-TEST(SmbiosManager, AThreadThatWaitsForALoadFindsItDone) {
+TEST(SmbiosManager, ALoadThatFailsPartWayLeavesNothingBehindForTheNext) {
+    const std::vector<std::uint16_t> handles = {1, 2, 3};
+    const FakeFirmwareTable firmware(
+        TableBuilder(2, 8, 0).Add(MemoryDevice(1)).Add(MemoryDevice(2)).Add(MemoryDevice(3)).RawTable());
+    bool sawSomeFiled = false;
+    for (std::size_t n = 1; !LoadsWithMemoryFor(n); ++n) {
+        const std::vector<std::uint16_t> filed = HandlesOf(StructureTypes::MemoryDevice);
+        ASSERT_LT(filed.size(), handles.size()) << "allocation " << n;
+        ASSERT_TRUE(std::equal(filed.begin(), filed.end(), handles.begin())) << "allocation " << n;
+        sawSomeFiled = sawSomeFiled || !filed.empty();
+    }
+    EXPECT_TRUE(sawSomeFiled);
+    EXPECT_EQ(HandlesOf(StructureTypes::MemoryDevice), handles);
+}
+
+TEST(SmbiosManager, ThePlatformIsGivenABufferOfZeros) {
     const FakeFirmwareTable firmware(TableOfVersion(2, 8, 0));
+    TheManager().UpdateBiosInfo();
+    EXPECT_TRUE(firmware.WasGivenZeros());
+}
+
+// Threads
+
+TEST(SmbiosManager, AThreadThatWaitsForALoadFindsItDone) {
+    FakeFirmwareTable firmware(TableOfVersion(2, 8, 0));
+    MeetingPoint middleOfTheLoad;
+    firmware.DuringSizeQuery([&] { middleOfTheLoad.Arrive(); });
     std::thread one([] { TheManager().UpdateBiosInfo(); });
     std::thread two([] { TheManager().UpdateBiosInfo(); });
     one.join();
     two.join();
-    EXPECT_EQ(firmware.SizeQueries(), 1);
+    EXPECT_EQ(middleOfTheLoad.Arrivals(), 1);
+}
+
+TEST(SmbiosManager, StructuresAskedForDuringALoadAreThoseLoaded) {
+    const auto structures =
+        AnswerDuringALoad(TableBuilder(2, 8, 0).Add(MemoryDevice(1)).Add(MemoryDevice(2)).RawTable(),
+                          [] { return HandlesOf(StructureTypes::MemoryDevice); });
+    EXPECT_EQ(structures, (std::vector<std::uint16_t>{1, 2}));
+}
+
+TEST(SmbiosManager, TheVersionAskedForDuringALoadIsTheOneLoaded) {
+    EXPECT_EQ(AnswerDuringALoad(TableOfVersion(2, 8, 0), [] { return TheManager().GetVersion(); }), "2.8.0");
 }
 
 // Version

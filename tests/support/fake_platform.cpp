@@ -13,8 +13,10 @@ std::uint32_t FakeFirmwareTable::Read(std::uint32_t provider,
     const auto size = static_cast<std::uint32_t>(table_.size());
     if (buffer.empty()) {
         ++sizeQueries_;
+        duringSizeQuery_();
         return size;
     }
+    wasGivenZeros_ = std::ranges::all_of(buffer, [](std::uint8_t byte) { return byte == 0; });
     std::copy_n(table_.begin(), std::min(table_.size(), buffer.size()), buffer.begin());
     return claimedSize_.value_or(size);
 }

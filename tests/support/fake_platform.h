@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -29,12 +30,20 @@ public:
     /// What the second call, the one that fills the buffer, claims to have written.
     void ClaimToFill(std::uint32_t size) { claimedSize_ = size; }
 
+    /// Runs `action` in the middle of every load: within the first call, the one that asks for the size.
+    void DuringSizeQuery(std::function<void()> action) { duringSizeQuery_ = std::move(action); }
+
     [[nodiscard]] int SizeQueries() const noexcept { return sizeQueries_; }
+
+    /// Whether the buffer of the latest second call came filled with zeros.
+    [[nodiscard]] bool WasGivenZeros() const noexcept { return wasGivenZeros_; }
 
 private:
     std::vector<std::uint8_t> table_;
     std::optional<std::uint32_t> claimedSize_;
+    std::function<void()> duringSizeQuery_ = [] {};
     int sizeQueries_ = 0;
+    bool wasGivenZeros_ = false;
 };
 
 /// Stands in for PowerShell while it lives: notes every command line and answers with a prepared text.

@@ -1,0 +1,14 @@
+#include "tests/support/failing_allocation.h"
+
+#include <new>
+
+namespace SMBIOS::Tests {
+
+void FailAllocation::BeforeAllocation() {
+    ++count_;
+    if (count_ == n_ || (count_ > n_ && failing_ == Failing::fromThenOn)) {
+        throw std::bad_alloc();
+    }
+}
+
+}  // namespace SMBIOS::Tests
