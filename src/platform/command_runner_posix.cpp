@@ -1,6 +1,8 @@
 #include <fcntl.h>
+#include <paths.h>
 #include <spawn.h>
 #include <stdio.h>
+#include <stdlib.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -12,6 +14,7 @@
 #include "platform/command_line.h"
 #include "platform/command_runner.h"
 #include "platform/descriptor.h"
+#include "platform/program_search_posix.h"
 #include "platform/read_pieces.h"
 
 extern char** environ;
@@ -89,21 +92,36 @@ private:
     bool isComplete_;
 };
 
-/// Returns the program's process id, or 0 when it cannot be started.
-pid_t Spawn(std::vector<std::string>& elements, int output) {
+std::vector<std::string> FilesOf(const std::string& program) {
+    const char* const path = ::secure_getenv("PATH");
+    return ProgramCandidates(program, path != nullptr ? path : _PATH_DEFPATH);
+}
+
+std::vector<char*> ArgumentsOf(std::vector<std::string>& elements) {
     std::vector<char*> arguments;
     arguments.reserve(elements.size() + 1);
     for (std::string& element : elements) {
         arguments.push_back(element.data());
     }
     arguments.push_back(nullptr);
+    return arguments;
+}
+
+/// Returns the program's process id, or 0 when it cannot be started.
+pid_t Spawn(std::vector<std::string>& elements, int output) {
+    const std::vector<char*> arguments = ArgumentsOf(elements);
     const OutputRedirection redirection(output);
-    pid_t program = 0;
-    const bool started =
-        redirection.IsComplete() &&
-        ::posix_spawnp(&program, arguments[0], redirection.Actions(), nullptr, arguments.data(), environ) ==
-            0;
-    return started ? program : 0;
+    if (!redirection.IsComplete()) {
+        return 0;
+    }
+    for (const std::string& file : FilesOf(elements.front())) {
+        pid_t program = 0;
+        if (::posix_spawn(
+                &program, file.c_str(), redirection.Actions(), nullptr, arguments.data(), environ) == 0) {
+            return program;
+        }
+    }
+    return 0;
 }
 
 ProgramStream StartProgram(const std::string& commandLine) {

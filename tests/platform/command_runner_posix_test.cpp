@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <new>
@@ -150,6 +151,55 @@ TEST(PosixCommandRunner, RefusesAMissingPath) {
 
 TEST(PosixCommandRunner, RefusesAnEmptyCommandLine) {
     EXPECT_FALSE(Starts(""));
+}
+
+/// A program in the working folder, which prints "planted".
+class PlantedProgram {
+public:
+    explicit PlantedProgram(const char* path) : formerFolder_(std::filesystem::current_path()) {
+        namespace fs = std::filesystem;
+        fs::create_directory(folder_.Path() / "bin");
+        for (const char* const name : {"planted", "bin/planted"}) {
+            fs::permissions(folder_.Write(name, "#!/bin/sh\necho planted\n"), fs::perms::owner_all);
+        }
+        fs::current_path(folder_.Path());
+        ::setenv("PATH", path, 1);
+    }
+    ~PlantedProgram() {
+        std::filesystem::current_path(formerFolder_);
+        ::setenv("PATH", formerPath_.c_str(), 1);
+    }
+
+    [[nodiscard]] std::string Folder() const { return folder_.Path(); }
+
+private:
+    Tests::TemporaryFolder folder_;
+    std::filesystem::path formerFolder_;
+    std::string formerPath_ = std::getenv("PATH");
+};
+
+TEST(PosixCommandRunner, FindsNothingInTheWorkingFolder) {
+    for (const char* const path : {"", ":", "/bin:", "/bin::/usr/bin", ".", "bin", "/bin:./bin"}) {
+        const PlantedProgram program(path);
+        EXPECT_FALSE(Starts("planted")) << path;
+    }
+}
+
+TEST(PosixCommandRunner, FindsAProgramBehindFoldersThatLackIt) {
+    const PlantedProgram program("/no/such/folder");
+    ::setenv("PATH", ("/no/such/folder:" + program.Folder()).c_str(), 1);
+    EXPECT_EQ(OutputOf("planted"), "planted\n");
+}
+
+TEST(PosixCommandRunner, StartsAProgramWhosePathIsGiven) {
+    const PlantedProgram program("");
+    EXPECT_EQ(OutputOf("./planted"), "planted\n");
+}
+
+TEST(PosixCommandRunner, FindsTheSystemsProgramsWithoutAPath) {
+    const PlantedProgram program("");
+    ::unsetenv("PATH");
+    EXPECT_EQ(OutputOf("echo hello"), "hello\n");
 }
 
 TEST(PosixCommandRunner, PrintsNothingAboutAMissingProgram) {
