@@ -5,7 +5,6 @@
 #include <map>
 #include <memory>
 #include <mutex>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <span>
 #include <string>
@@ -14,6 +13,7 @@
 #include <vector>
 
 #include "parsers/record_lock.h"
+#include "wmi/property_value.h"
 #include "wmi/wmi_query.h"
 
 namespace SMBIOS::Parsers {
@@ -54,19 +54,21 @@ struct WmiProperty {
             field);
     }
 
-    /// Stores `value` as the field's own type. Throws nlohmann::json's type error when it does not fit.
-    void Store(Record& record, const nlohmann::json& value) const {
-        const bool isText = value.is_string() && !value.get_ref<const std::string&>().empty();
+    /// Stores `value` as the field's own type. Throws an exception of the standard library when it does not
+    /// fit.
+    void Store(Record& record, const Wmi::PropertyValue& value) const {
+        const std::string* const text = std::get_if<std::string>(&value);
+        const bool isText = text != nullptr && !text->empty();
         if (completion == Completion::askedNotStored || (completion == Completion::always && !isText)) {
             return;
         }
         std::visit(
             [&](auto member) {
                 if constexpr (std::is_same_v<decltype(member), std::string Record::*>) {
-                    record.*member = value.get<std::string>();
+                    record.*member = Wmi::ValueAs<std::string>(value);
                 } else {
                     using Value = typename std::remove_cvref_t<decltype(record.*member)>::value_type;
-                    record.*member = value.get<Value>();
+                    record.*member = Wmi::ValueAs<Value>(value);
                 }
             },
             field);
@@ -114,7 +116,7 @@ public:
     template <class Link = NoLink>
     void Rebuild(const Records& records, Link link = {}) {
         Request request = FileRecords(records, link);
-        nlohmann::json instancesByKey;
+        Wmi::Instances instancesByKey;
         if (!request.properties.empty()) {
             Quietly([&] { instancesByKey = AskWmi(request); });
         }
@@ -174,7 +176,7 @@ private:
         recordsByKey_.try_emplace(key, record);
     }
 
-    [[nodiscard]] nlohmann::json AskWmi(Request& request) const {
+    [[nodiscard]] Wmi::Instances AskWmi(Request& request) const {
         request.properties.emplace(source_.keyProperty);
 
         Wmi::WmiQuery query;
@@ -183,13 +185,13 @@ private:
         if (!request.keys.empty()) {
             query.Where(source_.keyProperty, request.keys);
         }
-        nlohmann::json instancesByKey;
+        Wmi::Instances instancesByKey;
         query.FetchByKey(instancesByKey, source_.keyProperty, request.properties);
         return instancesByKey;
     }
 
-    void Store(const nlohmann::json& instancesByKey, const Wmi::PropertySet& requested) {
-        for (const auto& [key, instance] : instancesByKey.items()) {
+    void Store(const Wmi::Instances& instancesByKey, const Wmi::PropertySet& requested) {
+        for (const auto& [key, instance] : instancesByKey) {
             StoreMembers(RecordOf(key), instance, requested);
         }
     }
@@ -213,12 +215,13 @@ private:
     }
 
     void StoreMembers(Record& record,
-                      const nlohmann::json& instance,
+                      const Wmi::Instance& instance,
                       const Wmi::PropertySet& requested) const {
         for (const std::string& name : requested) {
             const WmiProperty<Record>* const property = FindProperty(name);
-            if (property != nullptr && instance.contains(name)) {
-                property->Store(record, instance.at(name));
+            const auto member = instance.find(name);
+            if (property != nullptr && member != instance.end()) {
+                property->Store(record, member->second);
             }
         }
     }

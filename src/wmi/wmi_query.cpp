@@ -1,37 +1,9 @@
 #include "wmi/wmi_query.h"
 
-#include <nlohmann/json.hpp>
-
 #include "platform/command_runner.h"
+#include "wmi/answer_reader.h"
 
 namespace SMBIOS::Wmi {
-
-namespace {
-
-nlohmann::json Projection(const nlohmann::json& instance, const PropertySet& properties) {
-    nlohmann::json projection = nlohmann::json::object();
-    for (const std::string& property : properties) {
-        if (instance.contains(property)) {
-            projection[property] = instance.at(property);
-        }
-    }
-    return projection;
-}
-
-void FileInstance(nlohmann::json& result,
-                  const nlohmann::json& instance,
-                  const std::string& keyProperty,
-                  const PropertySet& properties) {
-    if (!instance.is_object() || !instance.contains(keyProperty)) {
-        return;
-    }
-    const auto key = instance.at(keyProperty).get<std::string>();
-    if (!result.contains(key)) {
-        result[key] = Projection(instance, properties);
-    }
-}
-
-}  // namespace
 
 void WmiQuery::Select(const PropertySet& properties, std::string_view className) {
     selectClause = "SELECT ";
@@ -64,22 +36,13 @@ bool WmiQuery::RunPowerShell(std::string& output) const {
     return Platform::ActiveCommandRunner().Run(CommandLine(), output);
 }
 
-void WmiQuery::FetchByKey(nlohmann::json& result,
+void WmiQuery::FetchByKey(Instances& result,
                           const std::string& keyProperty,
                           const PropertySet& properties) const {
-    result = nullptr;
+    result.clear();
     std::string output;
-    if (!RunPowerShell(output)) {
-        return;
-    }
-    // ConvertTo-Json prints an array for several instances and the bare object for a single one.
-    const nlohmann::json answer = nlohmann::json::parse(output);
-    if (answer.is_object()) {
-        FileInstance(result, answer, keyProperty, properties);
-    } else if (answer.is_array()) {
-        for (const nlohmann::json& instance : answer) {
-            FileInstance(result, instance, keyProperty, properties);
-        }
+    if (RunPowerShell(output)) {
+        ReadAnswer(output, keyProperty, properties, result);
     }
 }
 

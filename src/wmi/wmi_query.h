@@ -1,15 +1,13 @@
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace SMBIOS::Wmi {
+#include "wmi/property_set.h"
+#include "wmi/property_value.h"
 
-/// Names of WMI properties, in the byte-wise order in which they stand in a query.
-using PropertySet = std::set<std::string, std::less<>>;
+namespace SMBIOS::Wmi {
 
 /// One query over the instances of a WMI class, run by PowerShell and answered as JSON. A plain value; set
 /// `wmiNamespace`, call `Select`, then `Where` if there is something to filter on, then `FetchByKey`.
@@ -33,12 +31,10 @@ struct WmiQuery {
     [[nodiscard]] bool RunPowerShell(std::string& output) const;
 
     /// Runs the query and files the requested properties of every instance under the text of its
-    /// `keyProperty`; the first instance of a key stays. `result` is null when nothing was found or
+    /// `keyProperty`; the first instance of a key stays. `result` is empty when nothing was found or
     /// PowerShell cannot be started. Throws nlohmann::json's own exceptions for text that is not JSON and for
-    /// a key that is not text.
-    void FetchByKey(nlohmann::json& result,
-                    const std::string& keyProperty,
-                    const PropertySet& properties) const;
+    /// a key that is not text; then the instances before that one stay in `result`.
+    void FetchByKey(Instances& result, const std::string& keyProperty, const PropertySet& properties) const;
 };
 
 }  // namespace SMBIOS::Wmi

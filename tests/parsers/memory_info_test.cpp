@@ -24,6 +24,7 @@ using Parsers::MEMORY_TYPE_DETAILS;
 using Parsers::MemoryInfo;
 using Structures::Type_17;
 
+constexpr std::size_t kDepth = 1'000'000;
 constexpr std::size_t kFarIndex = std::numeric_limits<std::size_t>::max();
 
 /// A device of a 2.8.0 table that lacks nothing the firmware can give.
@@ -595,6 +596,22 @@ TEST_F(MemoryInfoTest, ABooleanIsRefusedByA64BitField) {
     Load({FullDevice("A").Word(0x0C, 0)});
     EXPECT_EQ(info_.GetSizeInKB(0), 18446744073709551615U);
     EXPECT_EQ(info_.GetPositionInRow(0), 255);
+}
+
+TEST_F(MemoryInfoTest, ADeepMemberThatIsAskedForEndsTheCompletion) {
+    powershell_.Answer(R"({"SerialNumber":"A","Manufacturer":"kept","Tag":"not reached","PositionInRow":)" +
+                       std::string(kDepth, '[') + std::string(kDepth, ']') + "}");
+    Load({FullDevice("A").Byte(0x17, 0).Byte(0x19, 0)});
+    EXPECT_STREQ(info_.GetManufacturer(0), "kept");
+    EXPECT_EQ(info_.GetPositionInRow(0), 255);
+    EXPECT_EQ(info_.GetAssetTag(0), nullptr);
+}
+
+TEST_F(MemoryInfoTest, ADeepMemberThatIsNotAskedForIsPassedOver) {
+    powershell_.Answer(R"({"__PATH":)" + std::string(kDepth, '[') + std::string(kDepth, ']') +
+                       R"(,"SerialNumber":"A","PositionInRow":4})");
+    Load({FullDevice("A")});
+    EXPECT_EQ(info_.GetPositionInRow(0), 4);
 }
 
 TEST_F(MemoryInfoTest, AnAnswerForAnUnknownSerialNumberAddsARow) {

@@ -4,6 +4,8 @@
 
 #include <nlohmann/json.hpp>
 #include <string>
+#include <type_traits>
+#include <variant>
 
 #include "tests/support/fake_platform.h"
 
@@ -11,7 +13,10 @@ namespace SMBIOS::Tests {
 namespace {
 
 using nlohmann::json;
+using Wmi::Container;
+using Wmi::Instances;
 using Wmi::PropertySet;
+using Wmi::PropertyValue;
 using Wmi::WmiQuery;
 
 WmiQuery MemoryQuery(const PropertySet& properties) {
@@ -21,13 +26,36 @@ WmiQuery MemoryQuery(const PropertySet& properties) {
     return query;
 }
 
-/// What FetchByKey makes of PowerShell's `output`.
+json JsonOf(const PropertyValue& value) {
+    return std::visit(
+        [](const auto& content) -> json {
+            if constexpr (std::is_same_v<std::remove_cvref_t<decltype(content)>, Container>) {
+                return content == Container::array ? json::array() : json::object();
+            } else {
+                return content;
+            }
+        },
+        value);
+}
+
+json JsonOf(const Instances& instances) {
+    json result;
+    for (const auto& [key, instance] : instances) {
+        result[key] = json::object();
+        for (const auto& [property, value] : instance) {
+            result[key][property] = JsonOf(value);
+        }
+    }
+    return result;
+}
+
+/// What FetchByKey makes of PowerShell's `output`; null for nothing.
 json Fetched(const std::string& output, const PropertySet& properties = {"Capacity", "SerialNumber"}) {
     FakeCommandRunner powershell;
     powershell.Answer(output);
-    json result = "left over";
+    Instances result{{"left over", {}}};
     MemoryQuery(properties).FetchByKey(result, "SerialNumber", properties);
-    return result;
+    return JsonOf(result);
 }
 
 template <class Exception>
@@ -171,6 +199,44 @@ TEST(WmiQuery, ElementsThatAreNoObjectsAreSkipped) {
     EXPECT_EQ(Fetched(R"([1,"SerialNumber",null,["SerialNumber"]])"), json());
 }
 
+TEST(WmiQuery, OfAMemberThatHoldsOthersTheKindIsKept) {
+    EXPECT_EQ(
+        Fetched(R"([{"SerialNumber":"A","Capacity":[1,{"SerialNumber":"Z"},[2]]},
+                          {"SerialNumber":"B","Capacity":{"Capacity":3,"SerialNumber":"Z"}}])"),
+        json::parse(R"({"A":{"SerialNumber":"A","Capacity":[]},"B":{"SerialNumber":"B","Capacity":{}}})"));
+}
+
+TEST(WmiQuery, WhatFollowsAMemberThatHoldsOthersIsKept) {
+    EXPECT_EQ(Fetched(R"({"Tag":{"a":[{"Capacity":9}]},"Capacity":1,"Name":[[]],"SerialNumber":"A"})"),
+              json::parse(R"({"A":{"SerialNumber":"A","Capacity":1}})"));
+}
+
+TEST(WmiQuery, EveryKindOfValueIsKept) {
+    EXPECT_EQ(Fetched(R"({"SerialNumber":"A","a":null,"b":true,"c":7,"d":-7,"e":1.5,"f":"t\u00e9xt"})",
+                      {"a", "b", "c", "d", "e", "f"}),
+              json::parse(R"({"A":{"a":null,"b":true,"c":7,"d":-7,"e":1.5,"f":"t\u00e9xt"}})"));
+}
+
+TEST(WmiQuery, ObjectsWithinInnerArraysAreNoInstances) {
+    EXPECT_EQ(Fetched(R"([[{"SerialNumber":"A"}],{"SerialNumber":"B"}])"),
+              json::parse(R"({"B":{"SerialNumber":"B"}})"));
+}
+
+TEST(WmiQuery, OfARepeatedMemberTheLastCounts) {
+    EXPECT_EQ(Fetched(R"({"Capacity":1,"SerialNumber":"A","Capacity":[2],"Capacity":3})"),
+              json::parse(R"({"A":{"SerialNumber":"A","Capacity":3}})"));
+    EXPECT_EQ(Fetched(R"({"Capacity":1,"SerialNumber":"A","Capacity":[2]})"),
+              json::parse(R"({"A":{"SerialNumber":"A","Capacity":[]}})"));
+}
+
+TEST(WmiQuery, OfARepeatedKeyTheLastCounts) {
+    EXPECT_EQ(Fetched(R"({"SerialNumber":7,"SerialNumber":"A","Capacity":1})"),
+              json::parse(R"({"A":{"SerialNumber":"A","Capacity":1}})"));
+    EXPECT_NE(TextOfFailure<json::type_error>(R"({"SerialNumber":"A","SerialNumber":{}})")
+                  .find("type must be string, but is object"),
+              std::string::npos);
+}
+
 TEST(WmiQuery, AnEmptyArrayGivesNull) {
     EXPECT_EQ(Fetched("[]"), json());
 }
@@ -193,9 +259,9 @@ TEST(WmiQuery, TheKeyMayBeAnEmptyText) {
 TEST(WmiQuery, AStartFailureGivesNull) {
     FakeCommandRunner powershell;
     powershell.FailToStart();
-    json result = "left over";
+    Instances result{{"left over", {}}};
     MemoryQuery({"Tag"}).FetchByKey(result, "SerialNumber", {"Tag"});
-    EXPECT_TRUE(result.is_null());
+    EXPECT_TRUE(result.empty());
 }
 
 TEST(WmiQuery, AnEmptyOutputIsAParseError) {
@@ -225,12 +291,42 @@ TEST(WmiQuery, ANumericKeyIsATypeError) {
         std::string::npos);
 }
 
+TEST(WmiQuery, AKeyThatHoldsOthersIsATypeError) {
+    EXPECT_NE(TextOfFailure<json::type_error>(R"({"SerialNumber":["A"]})")
+                  .find("type must be string, but is array"),
+              std::string::npos);
+}
+
+TEST(WmiQuery, TextBehindTheDocumentIsAParseError) {
+    EXPECT_NE(TextOfFailure<json::parse_error>(R"({"SerialNumber":"A"} x)"), "nothing thrown");
+}
+
+TEST(WmiQuery, TextThatIsNotJsonCountsMoreThanAKeyBeforeIt) {
+    EXPECT_NE(TextOfFailure<json::parse_error>(R"([{"SerialNumber":7},)"), "nothing thrown");
+}
+
+TEST(WmiQuery, NothingIsKeptOfTextThatIsNotJson) {
+    FakeCommandRunner powershell;
+    powershell.Answer(R"([{"SerialNumber":"A"},)");
+    Instances result;
+    EXPECT_THROW(MemoryQuery({"Tag"}).FetchByKey(result, "SerialNumber", {"Tag"}), json::parse_error);
+    EXPECT_TRUE(result.empty());
+}
+
+TEST(WmiQuery, NothingIsFiledBehindAKeyThatIsNoText) {
+    FakeCommandRunner powershell;
+    powershell.Answer(R"([{"SerialNumber":7},{"SerialNumber":"A"}])");
+    Instances result;
+    EXPECT_THROW(MemoryQuery({"Tag"}).FetchByKey(result, "SerialNumber", {"Tag"}), json::type_error);
+    EXPECT_TRUE(result.empty());
+}
+
 TEST(WmiQuery, InstancesBeforeAFailureStayInTheResult) {
     FakeCommandRunner powershell;
     powershell.Answer(R"([{"SerialNumber":"A"},{"SerialNumber":7}])");
-    json result;
+    Instances result;
     EXPECT_THROW(MemoryQuery({"Tag"}).FetchByKey(result, "SerialNumber", {"SerialNumber"}), json::type_error);
-    EXPECT_EQ(result, json::parse(R"({"A":{"SerialNumber":"A"}})"));
+    EXPECT_EQ(JsonOf(result), json::parse(R"({"A":{"SerialNumber":"A"}})"));
 }
 
 }  // namespace

@@ -1,0 +1,149 @@
+#include "wmi/answer_reader.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <type_traits>
+#include <utility>
+
+namespace SMBIOS::Wmi {
+
+namespace {
+
+/// Ends with the JSON library's own complaint about a value that is no text.
+void RefuseAsText(const PropertyValue& value) {
+    const auto json = std::visit(
+        [](const auto& content) -> nlohmann::json {
+            if constexpr (std::is_same_v<std::remove_cvref_t<decltype(content)>, Container>) {
+                return content == Container::array ? nlohmann::json::array() : nlohmann::json::object();
+            } else {
+                return content;
+            }
+        },
+        value);
+    (void)json.get<std::string>();
+}
+
+/// Makes instances of what the JSON library reports of an answer while it reads it; the operations in its
+/// manner are those that it calls. Of a member that is repeated the last one counts.
+class InstanceCollector {
+public:
+    InstanceCollector(const std::string& keyProperty, const PropertySet& properties)
+        : keyProperty_(keyProperty), properties_(properties) {}
+
+    /// The key at which filing ended, as it is no text.
+    [[nodiscard]] const std::optional<PropertyValue>& RefusedKey() const noexcept { return refusedKey_; }
+
+    [[nodiscard]] Instances TakeInstances() noexcept { return std::move(instances_); }
+
+    bool null() { return Take(nullptr); }
+    bool boolean(bool value) { return Take(value); }
+    bool number_integer(std::int64_t value) { return Take(value); }
+    bool number_unsigned(std::uint64_t value) { return Take(value); }
+    bool number_float(double value, const std::string&) { return Take(value); }
+    bool string(std::string& value) { return Take(std::move(value)); }
+    bool binary(const nlohmann::json::binary_t&) { return false; }  // no JSON text holds any
+
+    bool start_array(std::size_t) {
+        Take(Container::array);
+        answerIsArray_ = answerIsArray_ || depth_ == 0;
+        ++depth_;
+        return true;
+    }
+
+    bool end_array() {
+        --depth_;
+        return true;
+    }
+
+    bool start_object(std::size_t) {
+        Take(Container::object);
+        const bool isInstance = depth_ == (answerIsArray_ ? 1 : 0);
+        ++depth_;
+        if (isInstance) {
+            instanceDepth_ = depth_;
+            key_.reset();
+            instance_.clear();
+        }
+        return true;
+    }
+
+    bool key(const std::string& name) {
+        if (IsAtMember()) {
+            const auto property = properties_.find(name);
+            property_ = property != properties_.end() ? &*property : nullptr;
+            isKey_ = name == keyProperty_;
+        }
+        return true;
+    }
+
+    bool end_object() {
+        if (IsAtMember()) {
+            FileInstance();
+            instanceDepth_ = 0;
+        }
+        --depth_;
+        return true;
+    }
+
+    template <class Failure>
+    bool parse_error(std::size_t, const std::string&, const Failure& failure) {
+        throw failure;
+    }
+
+private:
+    /// Whether the next value, or the end, is one of an instance itself and not of something in it.
+    [[nodiscard]] bool IsAtMember() const noexcept { return depth_ != 0 && depth_ == instanceDepth_; }
+
+    template <class Value>
+    bool Take(Value&& value) {
+        if (IsAtMember() && isKey_) {
+            key_ = value;
+        }
+        if (IsAtMember() && property_ != nullptr) {
+            instance_.insert_or_assign(*property_, std::forward<Value>(value));
+        }
+        return true;
+    }
+
+    void FileInstance() {
+        if (!key_ || refusedKey_) {
+            return;
+        }
+        if (std::string* const text = std::get_if<std::string>(&*key_)) {
+            instances_.try_emplace(std::move(*text), std::move(instance_));
+        } else {
+            refusedKey_ = std::move(key_);
+        }
+    }
+
+    const std::string& keyProperty_;
+    const PropertySet& properties_;
+    Instances instances_;
+    std::optional<PropertyValue> refusedKey_;
+
+    std::size_t depth_ = 0;  ///< number of arrays and objects that are open
+    bool answerIsArray_ = false;
+    std::size_t instanceDepth_ = 0;  ///< the depth within the instance being read; 0 outside
+    std::optional<PropertyValue> key_;
+    Instance instance_;
+    const std::string* property_ = nullptr;  ///< that of the value to come; nullptr for one not asked for
+    bool isKey_ = false;
+};
+
+}  // namespace
+
+void ReadAnswer(std::string_view answer,
+                const std::string& keyProperty,
+                const PropertySet& properties,
+                Instances& instances) {
+    InstanceCollector collector(keyProperty, properties);
+    nlohmann::json::sax_parse(answer, &collector);
+    instances = collector.TakeInstances();
+    if (collector.RefusedKey()) {
+        RefuseAsText(*collector.RefusedKey());
+    }
+}
+
+}  // namespace SMBIOS::Wmi
