@@ -31,7 +31,8 @@ using Instances = std::map<std::string, Instance, std::less<>>;
 [[nodiscard]] const std::string& TextOf(const PropertyValue& value);
 
 /// `value` as a number of 64 bits, in two's complement when it is negative; what a fraction has behind the
-/// point is cut off. Throws std::bad_variant_access when it is no number.
+/// point is cut off. Throws std::bad_variant_access when it is no number, and std::out_of_range when it does
+/// not fit.
 [[nodiscard]] std::uint64_t NumberOf(const PropertyValue& value);
 
 /// `value` as the type of a field that takes it. Numbers wrap to the field's width, and those of less than 64

@@ -598,6 +598,17 @@ TEST_F(MemoryInfoTest, ABooleanIsRefusedByA64BitField) {
     EXPECT_EQ(info_.GetPositionInRow(0), 255);
 }
 
+TEST_F(MemoryInfoTest, ANumberOfMoreThan64BitsEndsTheCompletion) {
+    for (const char* const number : {"1e300", "-1e300", "18446744073709551616", "-1e19"}) {
+        powershell_.Answer(std::string(R"({"SerialNumber":"A","Manufacturer":"kept","PositionInRow":)") +
+                           number + R"(,"Tag":"not reached"})");
+        Load({FullDevice("A").Byte(0x17, 0).Byte(0x19, 0)});
+        EXPECT_STREQ(info_.GetManufacturer(0), "kept") << number;
+        EXPECT_EQ(info_.GetPositionInRow(0), 255) << number;
+        EXPECT_EQ(info_.GetAssetTag(0), nullptr) << number;
+    }
+}
+
 TEST_F(MemoryInfoTest, ADeepMemberThatIsAskedForEndsTheCompletion) {
     powershell_.Answer(R"({"SerialNumber":"A","Manufacturer":"kept","Tag":"not reached","PositionInRow":)" +
                        std::string(kDepth, '[') + std::string(kDepth, ']') + "}");

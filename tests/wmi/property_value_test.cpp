@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <variant>
+#include <limits>
+#include <stdexcept>
 
 namespace SMBIOS::Wmi {
 namespace {
@@ -28,6 +29,22 @@ TEST(PropertyValue, AFractionIsCutOff) {
     EXPECT_EQ(ValueAs<std::uint8_t>(258.9), 2);
     EXPECT_EQ(ValueAs<std::uint8_t>(-2.9), 0xFE);
     EXPECT_EQ(ValueAs<std::uint8_t>(-0.5), 0);
+}
+
+TEST(PropertyValue, AFractionMayBeAsLargeAs64Bits) {
+    EXPECT_EQ(ValueAs<std::uint64_t>(18446744073709549568.0), 18446744073709549568U);
+    EXPECT_EQ(ValueAs<std::uint64_t>(-9223372036854775808.0), 9223372036854775808U);
+}
+
+TEST(PropertyValue, AFractionOfMoreThan64BitsIsRefused) {
+    for (const double number : {1e300, 18446744073709551616.0, -9223372036854777856.0, -1e300}) {
+        EXPECT_THROW((void)ValueAs<std::uint8_t>(number), std::out_of_range) << number;
+        EXPECT_THROW((void)ValueAs<std::uint64_t>(number), std::out_of_range) << number;
+    }
+}
+
+TEST(PropertyValue, AFractionThatIsNoNumberIsRefused) {
+    EXPECT_THROW((void)ValueAs<std::uint8_t>(std::numeric_limits<double>::quiet_NaN()), std::out_of_range);
 }
 
 TEST(PropertyValue, ATruthValueIsANumberOfLessThan64Bits) {
