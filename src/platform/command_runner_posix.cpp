@@ -1,5 +1,6 @@
 #include <fcntl.h>
 #include <paths.h>
+#include <signal.h>
 #include <spawn.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -28,11 +29,28 @@ struct Pipe {
     Descriptor writeEnd;
 };
 
+/// Kills a program whose output is no longer wanted: it may never notice that nobody reads it.
+void Kill(pid_t program) noexcept {
+    siginfo_t ignored;
+    const bool isOurs =
+        ::waitid(P_PID, static_cast<id_t>(program), &ignored, WEXITED | WNOHANG | WNOWAIT) == 0;
+    if (isOurs) {  // or the number may be another program's by now
+        ::kill(program, SIGKILL);
+    }
+}
+
 /// Closes the stream first, so that a program that still prints ends as well, and waits for the program.
 struct EndProgram {
     void operator()(FILE* stream) const noexcept {
+        const bool isReadToItsEnd = ::feof(stream) != 0;
         ::fclose(stream);
-        while (program > 0 && ::waitpid(program, nullptr, 0) < 0 && errno == EINTR) {
+        if (program <= 0) {
+            return;
+        }
+        if (!isReadToItsEnd) {
+            Kill(program);
+        }
+        while (::waitpid(program, nullptr, 0) < 0 && errno == EINTR) {
         }
     }
 
@@ -92,6 +110,39 @@ private:
     bool isComplete_;
 };
 
+/// How a program takes signals: as this process does, but it dies of a pipe that nobody reads, even where
+/// this process does not.
+class SignalAttributes {
+public:
+    SignalAttributes() noexcept : isReady_(::posix_spawnattr_init(&attributes_) == 0) {
+        sigset_t brokenPipe;
+        ::sigemptyset(&brokenPipe);
+        ::sigaddset(&brokenPipe, SIGPIPE);
+        sigset_t blocked;
+        ::pthread_sigmask(SIG_SETMASK, nullptr, &blocked);
+        ::sigdelset(&blocked, SIGPIPE);
+        isComplete_ =
+            isReady_ && ::posix_spawnattr_setsigdefault(&attributes_, &brokenPipe) == 0 &&
+            ::posix_spawnattr_setsigmask(&attributes_, &blocked) == 0 &&
+            ::posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK) == 0;
+    }
+    SignalAttributes(const SignalAttributes&) = delete;
+    SignalAttributes& operator=(const SignalAttributes&) = delete;
+    ~SignalAttributes() {
+        if (isReady_) {
+            ::posix_spawnattr_destroy(&attributes_);
+        }
+    }
+
+    [[nodiscard]] bool IsComplete() const noexcept { return isComplete_; }
+    [[nodiscard]] const posix_spawnattr_t* Attributes() const noexcept { return &attributes_; }
+
+private:
+    posix_spawnattr_t attributes_;
+    bool isReady_;
+    bool isComplete_ = false;
+};
+
 std::vector<std::string> FilesOf(const std::string& program) {
     const char* const path = ::secure_getenv("PATH");
     return ProgramCandidates(program, path != nullptr ? path : _PATH_DEFPATH);
@@ -111,13 +162,18 @@ std::vector<char*> ArgumentsOf(std::vector<std::string>& elements) {
 pid_t Spawn(std::vector<std::string>& elements, int output) {
     const std::vector<char*> arguments = ArgumentsOf(elements);
     const OutputRedirection redirection(output);
-    if (!redirection.IsComplete()) {
+    const SignalAttributes signals;
+    if (!redirection.IsComplete() || !signals.IsComplete()) {
         return 0;
     }
     for (const std::string& file : FilesOf(elements.front())) {
         pid_t program = 0;
-        if (::posix_spawn(
-                &program, file.c_str(), redirection.Actions(), nullptr, arguments.data(), environ) == 0) {
+        if (::posix_spawn(&program,
+                          file.c_str(),
+                          redirection.Actions(),
+                          signals.Attributes(),
+                          arguments.data(),
+                          environ) == 0) {
             return program;
         }
     }
@@ -138,16 +194,22 @@ ProgramStream StartProgram(const std::string& commandLine) {
     return stream.get_deleter().program != 0 ? std::move(stream) : nullptr;
 }
 
+class PosixProgramOutput final : public ProgramOutput {
+public:
+    explicit PosixProgramOutput(ProgramStream stream) noexcept : stream_(std::move(stream)) {}
+
+    [[nodiscard]] std::optional<std::string_view> NextPiece() override { return pieces_.Next(stream_.get()); }
+
+private:
+    ProgramStream stream_;
+    PieceReader pieces_;
+};
+
 class PosixCommandRunner final : public CommandRunner {
 public:
-    bool Run(const std::string& commandLine, std::string& output) override {
-        const ProgramStream stream = StartProgram(commandLine);
-        if (stream == nullptr) {
-            return false;
-        }
-        output.clear();
-        AppendPieces(stream.get(), output);
-        return true;
+    [[nodiscard]] std::unique_ptr<ProgramOutput> Start(const std::string& commandLine) override {
+        ProgramStream stream = StartProgram(commandLine);
+        return stream != nullptr ? std::make_unique<PosixProgramOutput>(std::move(stream)) : nullptr;
     }
 };
 

@@ -2,17 +2,25 @@
 
 #include <array>
 #include <cstdio>
-#include <string>
+#include <optional>
+#include <string_view>
 
 namespace SMBIOS::Platform {
 
-/// Appends what `stream` holds until its end, line by line in pieces of at most 127 characters. What follows
+/// Cuts a stream into pieces: lines, or where they are longer, parts of at most 127 characters. What follows
 /// a NUL within a piece is dropped with that piece.
-inline void AppendPieces(std::FILE* stream, std::string& output) {
-    std::array<char, 128> piece;
-    while (std::fgets(piece.data(), static_cast<int>(piece.size()), stream) != nullptr) {
-        output += piece.data();
+class PieceReader {
+public:
+    /// The next piece of `stream`, valid until the next call; none at the end.
+    [[nodiscard]] std::optional<std::string_view> Next(std::FILE* stream) noexcept {
+        if (std::fgets(piece_.data(), static_cast<int>(piece_.size()), stream) == nullptr) {
+            return std::nullopt;
+        }
+        return piece_.data();
     }
-}
+
+private:
+    std::array<char, 128> piece_;
+};
 
 }  // namespace SMBIOS::Platform

@@ -2,14 +2,75 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
 namespace SMBIOS::Wmi {
 
 namespace {
+
+/// The characters of an answer, of which no more than a piece is held.
+class Characters {
+public:
+    explicit Characters(Platform::ProgramOutput& answer) : answer_(answer) { ReadPiece(); }
+
+    [[nodiscard]] bool AtEnd() const noexcept { return piece_.empty(); }
+    [[nodiscard]] char Front() const noexcept { return piece_.front(); }
+
+    void RemoveFront() {
+        piece_.remove_prefix(1);
+        if (piece_.empty()) {
+            ReadPiece();
+        }
+    }
+
+private:
+    /// Reads the next piece that holds something; at the end there is none.
+    void ReadPiece() {
+        std::optional<std::string_view> piece;
+        do {
+            piece = answer_.NextPiece();
+        } while (piece && piece->empty());
+        piece_ = piece.value_or(std::string_view());
+    }
+
+    Platform::ProgramOutput& answer_;
+    std::string_view piece_;
+};
+
+/// Goes once through characters, as the JSON library wants them.
+class CharacterIterator {
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = char;
+
+    CharacterIterator() = default;  // the end of any characters
+    explicit CharacterIterator(Characters* characters) noexcept : characters_(characters) {}
+
+    [[nodiscard]] char operator*() const noexcept { return characters_->Front(); }
+    CharacterIterator& operator++() {
+        characters_->RemoveFront();
+        return *this;
+    }
+    void operator++(int) { characters_->RemoveFront(); }
+
+    [[nodiscard]] friend bool operator==(const CharacterIterator& left,
+                                         const CharacterIterator& right) noexcept {
+        return left.AtEnd() == right.AtEnd();
+    }
+
+private:
+    [[nodiscard]] bool AtEnd() const noexcept { return characters_ == nullptr || characters_->AtEnd(); }
+
+    Characters* characters_ = nullptr;
+};
 
 /// Ends with the JSON library's own complaint about a value that is no text.
 void RefuseAsText(const PropertyValue& value) {
@@ -134,12 +195,13 @@ private:
 
 }  // namespace
 
-void ReadAnswer(std::string_view answer,
+void ReadAnswer(Platform::ProgramOutput& answer,
                 const std::string& keyProperty,
                 const PropertySet& properties,
                 Instances& instances) {
     InstanceCollector collector(keyProperty, properties);
-    nlohmann::json::sax_parse(answer, &collector);
+    Characters characters(answer);
+    nlohmann::json::sax_parse(CharacterIterator(&characters), CharacterIterator(), &collector);
     instances = collector.TakeInstances();
     if (collector.RefusedKey()) {
         RefuseAsText(*collector.RefusedKey());

@@ -1,5 +1,7 @@
 #include "wmi/wmi_query.h"
 
+#include <memory>
+
 #include "platform/command_runner.h"
 #include "wmi/answer_reader.h"
 
@@ -40,9 +42,10 @@ void WmiQuery::FetchByKey(Instances& result,
                           const std::string& keyProperty,
                           const PropertySet& properties) const {
     result.clear();
-    std::string output;
-    if (RunPowerShell(output)) {
-        ReadAnswer(output, keyProperty, properties, result);
+    const std::unique_ptr<Platform::ProgramOutput> answer =
+        Platform::ActiveCommandRunner().Start(CommandLine());
+    if (answer != nullptr) {
+        ReadAnswer(*answer, keyProperty, properties, result);
     }
 }
 

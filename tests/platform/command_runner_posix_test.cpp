@@ -10,18 +10,21 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <new>
 #include <string>
 #include <vector>
 
 #include "platform/command_runner.h"
+#include "support/memory_limit_posix.h"
 #include "support/temporary_folder.h"
 
 namespace SMBIOS::Platform {
 namespace {
 
-constexpr std::size_t kMebibyte = 1'048'576;
+using Tests::kMebibyte;
+using Tests::kMemoryIsWatched;
+using Tests::LimitMemory;
+
 constexpr const char* kMissingProgram = "smbios-no-such-program --version";
 
 std::string OutputOf(const std::string& commandLine) {
@@ -253,6 +256,35 @@ TEST(PosixCommandRunner, OutlivesAProgramThatIsKilled) {
     EXPECT_EQ(OutputOf(R"(sh -c "echo hello; kill -9 $$")"), "hello\n");
 }
 
+TEST(PosixCommandRunner, EndsAProgramWhoseOutputIsNotRead) {
+    const auto program =
+        MachineCommandRunner().Start(R"(sh -c "trap '' PIPE TERM; echo one; exec sleep 1000")");
+    ASSERT_NE(program, nullptr);
+    EXPECT_EQ(program->NextPiece(), "one\n");
+}
+
+TEST(PosixCommandRunner, LeavesNoZombieOfAProgramWhoseOutputIsNotRead) {
+    (void)MachineCommandRunner().Start("echo hello");
+    EXPECT_TRUE(HasNoChildren());
+}
+
+TEST(PosixCommandRunner, LetsTheProgramDieOfABrokenPipeThatThisProcessIgnores) {
+    const auto previous = ::signal(SIGPIPE, SIG_IGN);
+    const std::string output = OutputOf(R"(sh -c "kill -PIPE $$; echo survived")");
+    ::signal(SIGPIPE, previous);
+    EXPECT_EQ(output, "");
+}
+
+TEST(PosixCommandRunner, LetsTheProgramDieOfABrokenPipeThatThisThreadBlocks) {
+    sigset_t brokenPipe;
+    ::sigemptyset(&brokenPipe);
+    ::sigaddset(&brokenPipe, SIGPIPE);
+    ::pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
+    const std::string output = OutputOf(R"(sh -c "kill -PIPE $$; echo survived")");
+    ::pthread_sigmask(SIG_UNBLOCK, &brokenPipe, nullptr);
+    EXPECT_EQ(output, "");
+}
+
 TEST(PosixCommandRunner, WorksWhenTheSystemReapsChildren) {
     const auto previous = ::signal(SIGCHLD, SIG_IGN);
     const std::string output = OutputOf("echo hello");
@@ -331,28 +363,6 @@ TEST(PosixCommandRunnerDeathTest, RefusesWhenThereIsNoRoomForAPipe) {
     EXPECT_EXIT(EchoWithoutRoomForAPipe(), testing::ExitedWithCode(0), "");
 }
 
-constexpr bool kMemoryIsWatched =
-#if defined(__SANITIZE_ADDRESS__)
-    true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-    true;
-#else
-    false;
-#endif
-#else
-    false;
-#endif
-
-/// Leaves the process 32 MiB of memory beyond what it has.
-void LimitMemory() {
-    std::size_t pages = 0;
-    std::ifstream("/proc/self/statm") >> pages;
-    const rlim_t size = pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE)) + 32 * kMebibyte;
-    const rlimit limit{size, size};
-    ::setrlimit(RLIMIT_AS, &limit);
-}
-
 bool RunsOutOfMemory(const std::string& commandLine) {
     std::string output;
     try {
@@ -368,6 +378,21 @@ bool RunsOutOfMemory(const std::string& commandLine) {
     LimitMemory();
     const bool isOutOfMemory = RunsOutOfMemory("yes " + std::string(120, 'x'));
     EndProcess(isOutOfMemory && HasNoChildren() && OpenDescriptors() == before);
+}
+
+[[noreturn]] void PrintMoreThanMemoryHoldsWithoutListening() {
+    ::alarm(10);
+    LimitMemory();
+    const bool isOutOfMemory = RunsOutOfMemory("sh -c \"trap '' PIPE TERM; while :; do echo " +
+                                               std::string(2000, 'x') + "; done 2>/dev/null\"");
+    EndProcess(isOutOfMemory && HasNoChildren());
+}
+
+TEST(PosixCommandRunnerDeathTest, EndsAProgramThatDoesNotListenWhenMemoryRunsOut) {
+    if (kMemoryIsWatched) {
+        GTEST_SKIP() << "the sanitizer ends the process when memory runs out";
+    }
+    EXPECT_EXIT(PrintMoreThanMemoryHoldsWithoutListening(), testing::ExitedWithCode(0), "");
 }
 
 TEST(PosixCommandRunnerDeathTest, LeavesNothingBehindWhenMemoryRunsOut) {

@@ -7,7 +7,7 @@ namespace {
 
 class RefusingRunner final : public CommandRunner {
 public:
-    bool Run(const std::string&, std::string&) override { return false; }
+    [[nodiscard]] std::unique_ptr<ProgramOutput> Start(const std::string&) override { return nullptr; }
 };
 
 class CommandRunnerInUse : public testing::Test {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace SMBIOS::Platform {
@@ -16,8 +17,11 @@ std::string PiecesOf(std::string_view text) {
     const std::unique_ptr<std::FILE, CloseFile> stream(std::tmpfile());
     std::fwrite(text.data(), 1, text.size(), stream.get());
     std::rewind(stream.get());
+    PieceReader pieces;
     std::string output;
-    AppendPieces(stream.get(), output);
+    while (const std::optional<std::string_view> piece = pieces.Next(stream.get())) {
+        output += *piece;
+    }
     return output;
 }
 
@@ -25,11 +29,14 @@ TEST(Pieces, OfAnEmptyStreamAreNone) {
     EXPECT_EQ(PiecesOf(""), "");
 }
 
-TEST(Pieces, AreAppendedToTheOutput) {
+TEST(Pieces, HaveAtMost127Characters) {
     const std::unique_ptr<std::FILE, CloseFile> stream(std::tmpfile());
-    std::string output = "before";
-    AppendPieces(stream.get(), output);
-    EXPECT_EQ(output, "before");
+    std::fputs(std::string(130, 'x').c_str(), stream.get());
+    std::rewind(stream.get());
+    PieceReader pieces;
+    EXPECT_EQ(pieces.Next(stream.get()), std::string(127, 'x'));
+    EXPECT_EQ(pieces.Next(stream.get()), "xxx");
+    EXPECT_EQ(pieces.Next(stream.get()), std::nullopt);
 }
 
 TEST(Pieces, AreWholeLines) {

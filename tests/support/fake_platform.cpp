@@ -4,6 +4,24 @@
 
 namespace SMBIOS::Tests {
 
+namespace {
+
+/// A text that is there at once, in one piece.
+class PreparedOutput final : public Platform::ProgramOutput {
+public:
+    explicit PreparedOutput(std::string text) : text_(std::move(text)) {}
+
+    [[nodiscard]] std::optional<std::string_view> NextPiece() override {
+        return std::exchange(isRead_, true) ? std::nullopt : std::optional<std::string_view>(text_);
+    }
+
+private:
+    std::string text_;
+    bool isRead_ = false;
+};
+
+}  // namespace
+
 std::uint32_t FakeFirmwareTable::Read(std::uint32_t provider,
                                       std::uint32_t tableId,
                                       std::span<std::uint8_t> buffer) {
@@ -21,13 +39,9 @@ std::uint32_t FakeFirmwareTable::Read(std::uint32_t provider,
     return claimedSize_.value_or(size);
 }
 
-bool FakeCommandRunner::Run(const std::string& commandLine, std::string& output) {
+std::unique_ptr<Platform::ProgramOutput> FakeCommandRunner::Start(const std::string& commandLine) {
     commandLines_.push_back(commandLine);
-    if (!answer_) {
-        return false;
-    }
-    output = *answer_;
-    return true;
+    return answer_ ? std::make_unique<PreparedOutput>(*answer_) : nullptr;
 }
 
 }  // namespace SMBIOS::Tests

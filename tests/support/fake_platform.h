@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -52,7 +53,7 @@ public:
     FakeCommandRunner() { Platform::UseCommandRunner(this); }
     ~FakeCommandRunner() { Platform::UseCommandRunner(nullptr); }
 
-    bool Run(const std::string& commandLine, std::string& output) override;
+    [[nodiscard]] std::unique_ptr<Platform::ProgramOutput> Start(const std::string& commandLine) override;
 
     void Answer(std::string output) { answer_ = std::move(output); }
     void FailToStart() { answer_.reset(); }

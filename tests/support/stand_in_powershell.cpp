@@ -33,9 +33,9 @@ StandInPowerShell::~StandInPowerShell() {
     fs::current_path(formerFolder_);
 }
 
-bool StandInPowerShell::Run(const std::string& commandLine, std::string& output) {
+std::unique_ptr<Platform::ProgramOutput> StandInPowerShell::Start(const std::string& commandLine) {
     commandLines_.push_back(commandLine);
-    return Platform::MachineCommandRunner().Run(commandLine, output);
+    return Platform::MachineCommandRunner().Start(commandLine);
 }
 
 std::vector<std::string> StandInPowerShell::Arguments() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,8 @@ public:
     explicit StandInPowerShell(const std::string& answer);
     ~StandInPowerShell();
 
-    /// Notes the command line and lets the machine's own runner run it.
-    bool Run(const std::string& commandLine, std::string& output) override;
+    /// Notes the command line and lets the machine's own runner start it.
+    [[nodiscard]] std::unique_ptr<Platform::ProgramOutput> Start(const std::string& commandLine) override;
 
     /// The command lines the library asked for, character for character.
     [[nodiscard]] const std::vector<std::string>& CommandLines() const noexcept { return commandLines_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <utility>
@@ -27,7 +28,9 @@ private:
 /// Starts nothing.
 class NoCommandRunner final : public Platform::CommandRunner {
 public:
-    bool Run(const std::string&, std::string&) override { return false; }
+    [[nodiscard]] std::unique_ptr<Platform::ProgramOutput> Start(const std::string&) override {
+        return nullptr;
+    }
 };
 
 }  // namespace SMBIOS::Inspect
