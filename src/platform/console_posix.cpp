@@ -1,11 +1,22 @@
 #include "platform/console.h"
 
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cerrno>
 
 namespace SMBIOS::Platform {
+
+namespace {
+
+/// Waits until a write to `descriptor` would do something, or fail.
+void WaitForRoom(int descriptor) noexcept {
+    pollfd waited{.fd = descriptor, .events = POLLOUT, .revents = 0};
+    ::poll(&waited, 1, -1);
+}
+
+}  // namespace
 
 struct Console::Settings {};
 
@@ -23,6 +34,8 @@ std::error_code Console::Write(std::string_view text) const noexcept {
         const ssize_t written = ::write(STDOUT_FILENO, text.data(), text.size());
         if (written >= 0) {
             text.remove_prefix(static_cast<std::size_t>(written));
+        } else if (errno == EAGAIN) {  // whoever shares the output may have made it non-blocking
+            WaitForRoom(STDOUT_FILENO);
         } else if (errno != EINTR) {
             return {errno, std::generic_category()};
         }
