@@ -2,25 +2,9 @@
 
 #include <algorithm>
 
+#include "tests/support/prepared_output.h"
+
 namespace SMBIOS::Tests {
-
-namespace {
-
-/// A text that is there at once, in one piece.
-class PreparedOutput final : public Platform::ProgramOutput {
-public:
-    explicit PreparedOutput(std::string text) : text_(std::move(text)) {}
-
-    [[nodiscard]] std::optional<std::string_view> NextPiece() override {
-        return std::exchange(isRead_, true) ? std::nullopt : std::optional<std::string_view>(text_);
-    }
-
-private:
-    std::string text_;
-    bool isRead_ = false;
-};
-
-}  // namespace
 
 std::uint32_t FakeFirmwareTable::Read(std::uint32_t provider,
                                       std::uint32_t tableId,

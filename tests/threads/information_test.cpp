@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <exception>
+#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
@@ -112,7 +113,7 @@ public:
     RetrievingRunner() { Platform::UseCommandRunner(this); }
     ~RetrievingRunner() { Platform::UseCommandRunner(nullptr); }
 
-    bool Run(const std::string&, std::string&) override {
+    [[nodiscard]] std::unique_ptr<Platform::ProgramOutput> Start(const std::string&) override {
         if (!isNested_.exchange(true)) {
             std::jthread([this] {
                 MemoryInfo memory;
@@ -122,7 +123,7 @@ public:
                 rowsOfOthers = memory.GetMemoryDeviceCount() + processors.GetCPUCount();
             }).join();
         }
-        return false;
+        return nullptr;
     }
 
     std::size_t rowsOfOthers = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "samples/table_builder.h"
+#include "tests/support/prepared_output.h"
 
 namespace SMBIOS::Tests {
 
@@ -83,11 +84,10 @@ std::uint32_t Machine::Read(std::uint32_t, std::uint32_t, std::span<std::uint8_t
     return static_cast<std::uint32_t>(table_.size());
 }
 
-bool Machine::Run(const std::string& commandLine, std::string& output) {
-    ++runs_;
+std::unique_ptr<Platform::ProgramOutput> Machine::Start(const std::string& commandLine) {
     const bool asksForDevices = commandLine.find("Win32_PhysicalMemory") != std::string::npos;
-    output = asksForDevices ? ListOf(kDevices, DeviceAnswer) : ListOf(kProcessors, ProcessorAnswer);
-    return true;
+    return std::make_unique<PreparedOutput>(asksForDevices ? ListOf(kDevices, DeviceAnswer)
+                                                           : ListOf(kProcessors, ProcessorAnswer));
 }
 
 std::string SerialNumberOf(std::size_t number) {

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -24,19 +25,15 @@ public:
     /// Number of attempts to read the table.
     [[nodiscard]] int Attempts() const { return attempts_; }
 
-    /// Number of programs started.
-    [[nodiscard]] int Runs() const { return runs_; }
-
 private:
     std::uint32_t Read(std::uint32_t provider,
                        std::uint32_t tableId,
                        std::span<std::uint8_t> buffer) override;
-    bool Run(const std::string& commandLine, std::string& output) override;
+    [[nodiscard]] std::unique_ptr<Platform::ProgramOutput> Start(const std::string& commandLine) override;
 
     const std::vector<std::uint8_t> table_;
     std::atomic<int> failures_ = 0;
     std::atomic<int> attempts_ = 0;
-    std::atomic<int> runs_ = 0;
 };
 
 /// What is asked of the machine above, and what it answers.
