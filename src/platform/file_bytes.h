@@ -8,8 +8,8 @@
 
 namespace SMBIOS::Platform {
 
-/// Far above any firmware table; keeps an endless file from filling the memory.
-inline constexpr std::size_t kLargestFile = std::size_t{64} * 1024 * 1024;
+/// More than any firmware's table has; keeps an endless file from filling the memory.
+inline constexpr std::size_t kLargestFile = std::size_t{16} * 1024 * 1024;
 
 /// The contents of a file, or the system's reason why they could not be read.
 struct FileBytes {

@@ -57,8 +57,14 @@ FileBytes ReadStream(std::FILE* stream) {
 }
 
 std::vector<std::uint8_t> LoadFile(FileBytes contents, const std::filesystem::path& file) {
+    if (contents.error == std::errc::file_too_large) {
+        throw SavedTableError::NotATable(file, "it is larger than 16 MiB, which no firmware's table is");
+    }
     if (contents.error) {
         throw SavedTableError::Unreadable(file, contents.error);
+    }
+    if (contents.bytes.empty()) {
+        throw SavedTableError::NotATable(file, "it is empty");
     }
     if (StartsWithEntryPointAnchor(contents.bytes)) {
         return FollowEntryPoint(file, contents.bytes);

@@ -53,6 +53,9 @@ public:
         record.handle = FormattedArea(formattedBytes).Handle();
     }
 
+    /// The smallest length byte that this type accepts.
+    [[nodiscard]] static std::uint8_t LeastLength() noexcept { return Type::kRules.lengths.first; }
+
     /// The record, shared with the decoder; null before `Process`.
     [[nodiscard]] const std::shared_ptr<Record>& GetRecord() const noexcept { return record_; }
 

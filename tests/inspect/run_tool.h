@@ -33,8 +33,15 @@ inline std::string ContentsOf(const std::filesystem::path& file) {
     return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
-inline std::string GoldenText(const char* name) {
-    return ContentsOf(std::filesystem::path(SMBIOS_SOURCE_DIR) / "tests" / "inspect" / "golden" / name);
+/// A checked-in output; `from` is the table that the user named, which some texts repeat.
+inline std::string GoldenText(const char* name, const std::string& from = SMBIOS_SAMPLE_TABLE) {
+    constexpr std::string_view kPlaceholder = "@TABLE@";
+    std::string text =
+        ContentsOf(std::filesystem::path(SMBIOS_SOURCE_DIR) / "tests" / "inspect" / "golden" / name);
+    if (const std::size_t place = text.find(kPlaceholder); place != std::string::npos) {
+        text.replace(place, kPlaceholder.size(), from);
+    }
+    return text;
 }
 
 inline std::vector<std::string> LinesOf(const std::string& text) {

@@ -108,7 +108,7 @@ TEST_F(SavedTable, HasTheNameOfItsStreamInTheMessage) {
         (void)LoadFromStream({});
         FAIL() << "the table was loaded";
     } catch (const SavedTableError& error) {
-        EXPECT_STREQ(error.what(), "the stream is truncated: nothing follows its 8-byte header");
+        EXPECT_STREQ(error.what(), "the stream is not an SMBIOS table: it is empty");
     }
 }
 
@@ -154,8 +154,14 @@ TEST_F(SavedTable, IsTruncatedWhenNothingFollowsTheRawHeader) {
     EXPECT_EQ(ProblemOf(Bytes{0, 3, 2, 0, 0, 0, 0, 0}), Problem::truncated);
 }
 
-TEST_F(SavedTable, IsTruncatedWhenTheFileIsEmpty) {
-    EXPECT_EQ(ProblemOf({}), Problem::truncated);
+TEST_F(SavedTable, IsNoTableWhenTheFileIsEmpty) {
+    EXPECT_EQ(ProblemOf({}), Problem::notATable);
+}
+
+TEST_F(SavedTable, IsNoTableWhenTheFileIsLargerThanAnyFirmwares) {
+    constexpr std::size_t kLargest = std::size_t{16} << 20;
+    std::vector<std::uint8_t> table(kLargest + 1, 1);
+    EXPECT_EQ(ProblemOf(table), Problem::notATable);
 }
 
 TEST_F(SavedTable, IsUnreadableForTheSystemsReason) {

@@ -108,9 +108,18 @@ TEST(Options, AnUnknownCommandIsAnError) {
 TEST(Options, AnUnknownOptionIsAnError) {
     EXPECT_EQ(ErrorOf({"--colour"}), "unknown option --colour");
     EXPECT_EQ(ErrorOf({"-x"}), "unknown option -x");
-    EXPECT_EQ(ErrorOf({"-"}), "unknown option -");
     EXPECT_EQ(ErrorOf({"memory", "--json=yes"}), "unknown option --json=yes");
     EXPECT_EQ(ErrorOf({"--fromfile"}), "unknown option --fromfile");
+}
+
+TEST(Options, AnOptionGivenTwiceIsAnError) {
+    EXPECT_EQ(ErrorOf({"--from", "a", "--from=b"}), "option --from is given twice");
+    EXPECT_EQ(ErrorOf({"memory", "--json", "--json"}), "option --json is given twice");
+    EXPECT_EQ(ErrorOf({"save", "a", "--force", "--force"}), "option --force is given twice");
+}
+
+TEST(Options, SaveDoesNotWriteToStandardOutput) {
+    EXPECT_EQ(ErrorOf({"save", "-"}), "save writes a file, not standard output");
 }
 
 TEST(Options, AnOptionWithoutItsValueIsAnError) {

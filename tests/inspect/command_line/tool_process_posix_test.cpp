@@ -39,7 +39,7 @@ TEST_F(ToolProcess, ReadsStandardInput) {
 }
 
 TEST_F(ToolProcess, ReadsAPipe) {
-    EXPECT_EQ(Run("cat \"$table\" | \"$tool\" memory --from -"), GoldenText("memory.txt"));
+    EXPECT_EQ(Run("cat \"$table\" | \"$tool\" memory --from -"), GoldenText("memory.txt", "-"));
 }
 
 TEST_F(ToolProcess, TellsWhyStandardInputCannotBeRead) {

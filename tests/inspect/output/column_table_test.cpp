@@ -89,6 +89,26 @@ TEST(WrapWords, CountsCharacters) {
     EXPECT_EQ(WrapWords("\xC3\xA9\xC3\xA9 \xC3\xA9", 4), Lines{"\xC3\xA9\xC3\xA9 \xC3\xA9"});
 }
 
+TEST(BesideLabel, TextStandsBesideItsLabel) {
+    const LabelledLines laidOut = BesideLabel("one two three", 10, 17);
+    EXPECT_EQ(laidOut.lines, (Lines{"one two", "three"}));
+    EXPECT_EQ(laidOut.indent, 10U);
+    EXPECT_FALSE(laidOut.isBelow);
+}
+
+TEST(BesideLabel, AWordThatHasRoomOnlyBelowTheLabelIsNotBroken) {
+    const LabelledLines laidOut = BesideLabel("one threeandmore", 10, 18);
+    EXPECT_EQ(laidOut.lines, (Lines{"one", "threeandmore"}));
+    EXPECT_EQ(laidOut.indent, 4U);
+    EXPECT_TRUE(laidOut.isBelow);
+}
+
+TEST(BesideLabel, WithoutATerminalNoLineIsBroken) {
+    const LabelledLines laidOut = BesideLabel("one two three", 10, 0);
+    EXPECT_EQ(laidOut.lines, Lines{"one two three"});
+    EXPECT_FALSE(laidOut.isBelow);
+}
+
 TEST(Emphasised, WithoutColoursIsTheTextItself) {
     EXPECT_EQ(Emphasised("text", Emphasis::warning, {}), "text");
 }

@@ -8,10 +8,12 @@
 
 #include "smbios-inspect/output/field_block.h"
 #include "smbios-inspect/records/filed_structure.h"
+#include "structures/type_16.h"
 #include "structures/type_17.h"
 #include "structures/type_19.h"
 #include "structures/type_2.h"
 #include "structures/type_3.h"
+#include "structures/type_4.h"
 #include "structures/type_43.h"
 #include "structures/type_7.h"
 #include "structures/type_9.h"
@@ -111,6 +113,40 @@ TEST(FiledStructure, NoFlagReadsAsNone) {
     EXPECT_EQ(Shown(TextOf<Structures::Type_17>({17, 0x5C}), "Type detail"), "none");
 }
 
+TEST(FiledStructure, TheCodesOfOtherAndUnknownHaveWords) {
+    EXPECT_EQ(Shown(TextOf<Structures::Type_3>(StructureBuilder(3, 0x15).Byte(0x09, 2)), "Boot-up state"),
+              "Unknown (2)");
+    EXPECT_EQ(Shown(TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Byte(0x12, 1)), "Memory type"),
+              "Other (1)");
+}
+
+TEST(FiledStructure, TheCodesOfABoardAreTheOtherWayRound) {
+    EXPECT_EQ(Shown(TextOf<Structures::Type_2>(StructureBuilder(2, 0x0F).Byte(0x0D, 1)), "Board type"),
+              "Unknown (1)");
+    EXPECT_EQ(Shown(TextOf<Structures::Type_2>(StructureBuilder(2, 0x0F).Byte(0x0D, 2)), "Board type"),
+              "Other (2)");
+}
+
+TEST(FiledStructure, ABitThatMeansUnknownHasItsWord) {
+    const std::string text = TextOf<Structures::Type_4>(StructureBuilder(4, 0x30).Word(0x26, 0x0006));
+    EXPECT_EQ(Shown(text, "Characteristics"), "Unknown, 64bitCapable");
+}
+
+TEST(FiledStructure, ZeroThatMeansUnknownHasItsWord) {
+    EXPECT_EQ(Shown(TextOf<Structures::Type_17>({17, 0x5C}), "Configured voltage"), "unknown");
+    EXPECT_EQ(Shown(TextOf<Structures::Type_3>({3, 0x15}), "Height"), "not specified");
+}
+
+TEST(FiledStructure, HandlesThatNameNothingHaveWords) {
+    const auto array = [](std::uint16_t handle) {
+        return Shown(TextOf<Structures::Type_16>(StructureBuilder(16, 0x17).Word(0x0B, handle)),
+                     "Error information");
+    };
+    EXPECT_EQ(array(0xFFFE), "not provided");
+    EXPECT_EQ(array(0xFFFF), "no error");
+    EXPECT_EQ(array(0x0012), "0x0012");
+}
+
 TEST(FiledStructure, HandlesReadInHexadecimal) {
     const std::string text = TextOf<Structures::Type_17>(StructureBuilder(17, 0x5C).Word(0x04, 0x00AB));
     EXPECT_EQ(Shown(text, "Memory array"), "0x00AB");
@@ -139,7 +175,7 @@ TEST(FiledStructure, TheSizeOfADeviceThatCountsKilobytes) {
 
 TEST(FiledStructure, AnAddressInKilobytes) {
     const std::string text = TextOf<Structures::Type_19>(StructureBuilder(19, 0x1F).Dword(0x08, 0x03FFFFFF));
-    EXPECT_EQ(Shown(text, "Ending address"), "0x3FFFFFF KiB");
+    EXPECT_EQ(Shown(text, "Ending address"), "0xFFFFFFFFF");
 }
 
 TEST(FiledStructure, AnAddressInBytes) {

@@ -229,7 +229,7 @@ TEST_F(MemoryReportTest, ReplacesBytesThatAreNotUtf8) {
 
 TEST_F(MemoryReportTest, WithoutDevicesIsAnEmptyList) {
     Load({StructureBuilder(127, 4)});
-    EXPECT_EQ(Report(true), "{\n  \"devices\": []\n}\n");
+    EXPECT_EQ(Report(true), "{\n  \"devices\": [],\n  \"unlisted\": 0\n}\n");
 }
 
 TEST_F(MemoryReportTest, SaysWhenThereAreNoDevices) {

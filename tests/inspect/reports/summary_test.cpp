@@ -46,6 +46,7 @@ protected:
         for (const StructureBuilder& structure : structures) {
             table.Add(structure);
         }
+        table.Add({127, 4});
         firmware_.Supply(table.RawTable());
     }
 
@@ -82,7 +83,7 @@ TEST(Summary, OfTheSampleIsAsExpected) {
 }
 
 TEST_F(SummaryTest, SaysWhatIsNotReported) {
-    Load({StructureBuilder(127, 4)});
+    Load({});
     EXPECT_EQ(Text(),
               "Firmware    not reported\n"
               "System      not reported\n"
@@ -197,9 +198,23 @@ TEST_F(SummaryTest, CountsDevicesThatCannotBeDecoded) {
 }
 
 TEST_F(SummaryTest, NamesTheTypesOfStructuresWithErrors) {
-    Load({StructureBuilder(17, 0x10), StructureBuilder(17, 0x10), StructureBuilder(0, 0x18)});
+    Load({StructureBuilder(17, 0x10), StructureBuilder(17, 0x10), StructureBuilder(16, 0x0E)});
     EXPECT_EQ(ValuesOf("Table"),
-              (Values{"SMBIOS 2.8.0, 3 structures", "3 structures with errors: types 0, 17"}));
+              (Values{"SMBIOS 2.8.0, 4 structures", "3 structures with errors: types 16, 17"}));
+}
+
+TEST_F(SummaryTest, SaysOfASoundStructureThatTheLibraryDoesNotDecodeIt) {
+    Load({StructureBuilder(0, 0x18)});
+    EXPECT_EQ(
+        ValuesOf("Table"),
+        (Values{"SMBIOS 2.8.0, 2 structures", "1 structure that this library does not decode (type 0)"}));
+}
+
+TEST_F(SummaryTest, SaysOfATableWithoutAnEndThatItMayBeCutShort) {
+    firmware_.Supply(TableBuilder(2, 8, 0).Add({16, 0x0F}).RawTable());
+    EXPECT_EQ(ValuesOf("Table"),
+              (Values{"SMBIOS 2.8.0, 1 structure",
+                      "the table may be cut short: it has no end-of-table structure"}));
 }
 
 TEST_F(SummaryTest, IsSafeForATerminal) {
@@ -221,7 +236,7 @@ TEST_F(SummaryTest, BreaksPartsThatAreTooLongBetweenWords) {
 TEST_F(SummaryTest, BreaksTheLineOfErrors) {
     Load({StructureBuilder(17, 0x10)});
     EXPECT_EQ(ValuesOf("Table", {.width = 36}),
-              (Values{"SMBIOS 2.8.0,", "  1 structure", "1 structure with", "errors: type 17"}));
+              (Values{"SMBIOS 2.8.0,", "  2 structures", "1 structure with", "errors: type 17"}));
 }
 
 TEST_F(SummaryTest, SetsOffLabelsAndErrors) {

@@ -3,6 +3,8 @@
 #include <exception>
 #include <ostream>
 
+#include "manager/raw_table.h"
+
 #include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/command_line/save.h"
 #include "smbios-inspect/command_line/table_input.h"
@@ -11,6 +13,7 @@
 #include "smbios-inspect/reports/processors_report.h"
 #include "smbios-inspect/reports/structures_report.h"
 #include "smbios-inspect/reports/summary_report.h"
+#include "smbios-inspect/reports/table_end.h"
 
 namespace SMBIOS::Inspect {
 
@@ -46,6 +49,13 @@ bool NeedsTable(Command command) noexcept {
     return command != Command::help && command != Command::version;
 }
 
+/// The summary says it itself.
+void WarnOfLostEnd(Command command, std::ostream& errors) {
+    if (NeedsTable(command) && command != Command::summary && MayBeCutShort(Manager::ReadRawTable())) {
+        errors << "smbios-inspect: " << kCutShortText << '\n';
+    }
+}
+
 }  // namespace
 
 int Run(std::span<const std::string_view> arguments,
@@ -56,9 +66,10 @@ int Run(std::span<const std::string_view> arguments,
         const Options options = ParseOptions(arguments);
         const TableInput table = NeedsTable(options.command) ? TableInput(options.report.from) : TableInput();
         Report(options, style, output);
+        WarnOfLostEnd(options.command, errors);
         return kSuccess;
     } catch (const UsageError& error) {
-        errors << "smbios-inspect: " << Printable(error.what()) << "\n\n" << UsageText();
+        errors << "smbios-inspect: " << Printable(error.what()) << "\nSee smbios-inspect --help.\n";
         return kWrongUsage;
     } catch (const std::exception& error) {
         errors << "smbios-inspect: " << Printable(error.what()) << "\n";

@@ -79,17 +79,26 @@ private:
     std::string_view argument_;
 };
 
+void RequireFirst(bool isFirst, std::string_view option) {
+    if (!isFirst) {
+        throw UsageError("option " + std::string(option) + " is given twice");
+    }
+}
+
 /// Reads one argument; false when it is no option.
 bool ReadOption(ArgumentReader& reader, Options& options) {
     if (reader.Argument() == "--json") {
+        RequireFirst(!options.report.json, "--json");
         options.report.json = true;
     } else if (reader.Argument() == "--force") {
+        RequireFirst(!options.force, "--force");
         options.force = true;
     } else if (const auto file = reader.ValueOf("--from")) {
+        RequireFirst(!options.report.from, "--from");
         options.report.from = *file;
     } else if (const auto type = reader.ValueOf("--type")) {
         options.report.types.insert(TypeNumberOf(*type));
-    } else if (reader.Argument().starts_with("-")) {
+    } else if (reader.Argument().starts_with("-") && reader.Argument() != "-") {
         throw UsageError("unknown option " + std::string(reader.Argument()));
     } else {
         return false;
@@ -117,6 +126,7 @@ void ReadWords(const std::vector<std::string_view>& words, Options& options) {
         throw UsageError("unexpected argument '" + std::string(words[wordsTaken]) + "'");
     }
     if (syntax.takesTarget) {
+        RequireThat(words[1] != "-", syntax, "writes a file, not standard output");
         options.target = words[1];
     }
 }

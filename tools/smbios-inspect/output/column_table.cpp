@@ -85,12 +85,16 @@ void ColumnTable::PrintBlock(const Row& row, const OutputStyle& style, std::ostr
         labelWidth = std::max(labelWidth, DisplayWidth(heading));
     }
     const std::size_t indent = labelWidth + kColumnGap.size();
-    const std::size_t valueWidth = style.width > indent ? style.width - indent : 1;
     for (std::size_t column = 0; column < row.size(); ++column) {
+        const LabelledLines labelled = BesideLabel(row[column], indent, style.width);
         std::string label = Padded(headings_[column], indent, style, true);
-        for (const std::string& line : WrapWords(row[column], valueWidth)) {
+        if (labelled.isBelow) {
+            output << WithoutTrailingBlanks(label) << '\n';
+            label = Blanks(labelled.indent);
+        }
+        for (const std::string& line : labelled.lines) {
             output << WithoutTrailingBlanks(label + line) << '\n';
-            label = Blanks(indent);
+            label = Blanks(labelled.indent);
         }
     }
 }

@@ -21,15 +21,6 @@ std::size_t LabelWidth(const std::vector<FieldText>& fields) {
     return width;
 }
 
-/// Columns left for what stands behind the labels, and never so few that it cannot be read; 0 for no limit.
-std::size_t TextWidth(const OutputStyle& style, std::size_t start) {
-    constexpr std::size_t kLeast = 20;
-    if (style.width == 0) {
-        return 0;
-    }
-    return style.width > start + kLeast ? style.width - start : kLeast;
-}
-
 }  // namespace
 
 void PrintFieldBlock(std::string_view heading,
@@ -43,8 +34,13 @@ void PrintFieldBlock(std::string_view heading,
         const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
         std::string label = std::string(kIndent, ' ') + field.label;
         for (const std::string& text : field.lines) {
-            for (const std::string& line : WrapWords(Printable(text), TextWidth(style, start))) {
-                label.resize(start, ' ');
+            const LabelledLines labelled = BesideLabel(Printable(text), start, style.width);
+            if (labelled.isBelow && !label.empty()) {
+                output << label << '\n';
+                label.clear();
+            }
+            for (const std::string& line : labelled.lines) {
+                label.resize(labelled.indent, ' ');
                 output << WithoutTrailingBlanks(label + Emphasised(line, emphasis, style)) << '\n';
                 label.clear();
             }

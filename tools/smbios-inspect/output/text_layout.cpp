@@ -92,6 +92,16 @@ std::size_t LineEnd(std::string_view text, std::size_t width) noexcept {
     return end;
 }
 
+std::size_t LongestWord(std::string_view text) noexcept {
+    std::size_t longest = 0;
+    while (!text.empty()) {
+        const std::string_view word = text.substr(0, text.find(' '));
+        longest = std::max(longest, DisplayWidth(word));
+        text.remove_prefix(std::min(word.size() + 1, text.size()));
+    }
+    return longest;
+}
+
 std::string_view WithoutLeadingBlanks(std::string_view text) noexcept {
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
@@ -147,6 +157,18 @@ std::vector<std::string> WrapWords(std::string_view text, std::size_t width) {
     }
     lines.emplace_back(text);
     return lines;
+}
+
+LabelledLines BesideLabel(std::string_view text, std::size_t start, std::size_t width) {
+    constexpr std::size_t kIndentBelow = 4;
+    if (width == 0) {
+        return {.lines = WrapWords(text, 0), .indent = start};
+    }
+    const std::size_t room = width > start ? width - start : 1;
+    if (LongestWord(text) <= room || width <= kIndentBelow) {
+        return {.lines = WrapWords(text, room), .indent = start};
+    }
+    return {.lines = WrapWords(text, width - kIndentBelow), .isBelow = true, .indent = kIndentBelow};
 }
 
 std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style) {

@@ -25,6 +25,17 @@ namespace SMBIOS::Inspect {
 /// a line of its own. There is at least one line, and none ends with a blank.
 [[nodiscard]] std::vector<std::string> WrapWords(std::string_view text, std::size_t width);
 
+/// Lines of printable text beside a label of `start` columns, or, where a word has room only there, below it
+/// with a small indent.
+struct LabelledLines {
+    std::vector<std::string> lines;
+    bool isBelow = false;
+    std::size_t indent = 0;  ///< of the lines
+};
+
+/// Lays out printable text behind a label of `start` columns on a terminal of `width` columns, 0 for none.
+[[nodiscard]] LabelledLines BesideLabel(std::string_view text, std::size_t start, std::size_t width);
+
 /// What colour sets off from the rest.
 enum class Emphasis : std::uint8_t { none, heading, warning, failure };
 

@@ -14,6 +14,9 @@ inline constexpr const char* kShownElsewhere = nullptr;
 /// The label of a field in a part of a record whose words need none.
 inline constexpr const char* kNoLabel = "";
 
+/// No code and no bit has this number.
+inline constexpr int kNoCode = -1;
+
 /// How people read a value. A function that takes the record and returns `Lines` is a form too.
 struct Plainly {};
 struct InHexadecimal {};
@@ -25,17 +28,34 @@ struct IfSet {       ///< a word for what is true
 struct Unit {
     const char* name;
 };
+struct UnitUnlessZero {  ///< and a word for 0, which is no value
+    const char* name;
+    const char* zero = "unknown";
+};
+struct HandleOfError {};  ///< a handle, or a word where there is no structure of an error
+struct HandleOr {         ///< a handle, or a word for 0xFFFF, which is none
+    const char* none;
+};
+struct UnnamedBits {  ///< flags, of which two may have no name but a meaning
+    int other = kNoCode;
+    int unknown = kNoCode;
+};
 struct ByteSize {
     std::uint64_t unit = 1;  ///< bytes that the value counts
 };
 
-/// A code beside the field that holds its text: "DDR4 (26)".
+/// A code beside the field that holds its text: "DDR4 (26)". The codes that the standard calls so have no
+/// text.
 template <class Record, class Text>
 struct NamedBy {
     Text Record::*text;
+    int other = 1;
+    int unknown = 2;
 };
 template <class Record, class Text>
 NamedBy(Text Record::*) -> NamedBy<Record, Text>;
+template <class Record, class Text>
+NamedBy(Text Record::*, int, int) -> NamedBy<Record, Text>;
 
 /// One field of a record: its name in programs, its label for people, where it is and how people read it.
 template <class Record, class Value, class Form>

@@ -74,6 +74,13 @@ const std::string& ErrorOf(const FiledStructure& structure) {
     return WriterFor(structure).error(*structure.second);
 }
 
+bool IsDamaged(const FiledStructure& structure) {
+    constexpr std::size_t kHeaderSize = 4;
+    const RecordWriter writer = WriterFor(structure);
+    const std::size_t size = writer.rawBytes(*structure.second).size();
+    return size < kHeaderSize || size < writer.leastLength;
+}
+
 Json StructureToJson(const FiledStructure& structure) {
     return {{"key", static_cast<int>(structure.first)},
             {"type", TypeOf(structure)},

@@ -19,6 +19,10 @@ using FiledStructure = Manager::FiledStructures::value_type;
 /// What failed when the structure was decoded; empty when nothing did.
 [[nodiscard]] const std::string& ErrorOf(const FiledStructure& structure);
 
+/// Whether a structure that failed is itself at fault: too short for its header or for its type. Any other
+/// that failed may be sound, of a length or a version that the library does not decode.
+[[nodiscard]] bool IsDamaged(const FiledStructure& structure);
+
 /// Key, type and record.
 [[nodiscard]] Json StructureToJson(const FiledStructure& structure);
 

@@ -10,6 +10,7 @@
 #include "smbios-inspect/records/memory_size.h"
 #include "smbios-inspect/records/record_writer_definition.h"
 #include "structures/formatted_area.h"
+#include "structures/hex_text.h"
 
 namespace SMBIOS::Inspect {
 
@@ -19,13 +20,20 @@ using Structures::FormattedArea;
 
 constexpr std::uint64_t kKilobyte = 1024;
 
-/// Where the DWORD at `offset` is all ones, the address stands elsewhere and in bytes.
-Lines AddressText(const std::string& address, const std::vector<std::uint8_t>& rawBytes, std::size_t offset) {
+/// The address of a byte. The DWORD at `offset` counts kilobytes, of which the byte is the first or the last;
+/// where it is all ones, the address stands elsewhere and in bytes.
+Lines AddressText(const std::string& address,
+                  const std::vector<std::uint8_t>& rawBytes,
+                  std::size_t offset,
+                  std::uint64_t byteOfKilobyte) {
+    constexpr std::size_t kLeastDigits = 8;
     if (address.empty()) {
         return {};
     }
-    const bool isInBytes = FormattedArea(rawBytes).Dword(offset) == 0xFFFFFFFF;
-    return {address + (isInBytes ? "" : " KiB")};
+    const std::uint64_t kilobytes = FormattedArea(rawBytes).Dword(offset);
+    const bool isInBytes = kilobytes == 0xFFFFFFFF;
+    return {isInBytes ? address
+                      : Structures::PaddedHexText(kilobytes * kKilobyte + byteOfKilobyte, kLeastDigits)};
 }
 
 }  // namespace
@@ -44,19 +52,19 @@ Lines DeviceSizeText(const Structures::Type17::Types::Type17Struct& record) {
 }
 
 Lines ArrayStartText(const Structures::Type19::Types::Type19Struct& record) {
-    return AddressText(record.startingAddress, record.rawBytes, 0x04);
+    return AddressText(record.startingAddress, record.rawBytes, 0x04, 0);
 }
 
 Lines ArrayEndText(const Structures::Type19::Types::Type19Struct& record) {
-    return AddressText(record.endingAddress, record.rawBytes, 0x08);
+    return AddressText(record.endingAddress, record.rawBytes, 0x08, kKilobyte - 1);
 }
 
 Lines DeviceStartText(const Structures::Type20::Types::Type20Struct& record) {
-    return AddressText(record.startingAddress, record.rawBytes, 0x04);
+    return AddressText(record.startingAddress, record.rawBytes, 0x04, 0);
 }
 
 Lines DeviceEndText(const Structures::Type20::Types::Type20Struct& record) {
-    return AddressText(record.endingAddress, record.rawBytes, 0x08);
+    return AddressText(record.endingAddress, record.rawBytes, 0x08, kKilobyte - 1);
 }
 
 template RecordWriter WriterOf<Structures::Type_16>();

@@ -29,7 +29,7 @@ struct Description<Structures::Type22::Types::Type22Struct> {
               &Record::deviceChemistryValue,
               NamedBy{&Record::deviceChemistry}},
         Field{"deviceChemistry", kShownElsewhere, &Record::deviceChemistry},
-        Field{"designVoltage", "Design voltage", &Record::designVoltage, Unit{"mV"}},
+        Field{"designVoltage", "Design voltage", &Record::designVoltage, UnitUnlessZero{"mV"}},
         Field{"maximumErrorInBatteryData", "Maximum error", &Record::maximumErrorInBatteryData, Unit{"%"}},
         Field{"designCapacity", "Design capacity", &Record::designCapacity, Unit{"mWh"}},
         Field{"oemSpecific", "OEM-specific", &Record::oemSpecific, InHexadecimal{}},
@@ -68,7 +68,7 @@ struct Description<Structures::Type27::Types::Type27Struct> {
         Field{"status", "Status", &Record::status},
         Field{"coolingUnitGroup", "Cooling unit group", &Record::coolingUnitGroup},
         Field{
-            "temperatureProbeHandle", "Temperature probe", &Record::temperatureProbeHandle, InHexadecimal{}},
+            "temperatureProbeHandle", "Temperature probe", &Record::temperatureProbeHandle, HandleOr{"none"}},
         Field{"oemDefined", "OEM-defined", &Record::oemDefined, InHexadecimal{}},
     };
 };

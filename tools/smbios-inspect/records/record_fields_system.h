@@ -23,7 +23,7 @@ struct Description<Structures::Type0::Types::Type0Struct> {
         Field{"startingAddressSegment", "Starting address segment", &Record::startingAddressSegment},
         Field{"systemBiosRelease", "System BIOS release", &Record::systemBiosRelease},
         Field{"ecFirmwareRelease", "Controller firmware release", &Record::ecFirmwareRelease},
-        Field{"characteristics", "Characteristics", &Record::characteristics},
+        Field{"characteristics", "Characteristics", &Record::characteristics, UnnamedBits{.unknown = 2}},
         Field{"romSize", "ROM size", &Record::romSize, ByteSize{}},
         Field{"characteristicsExtension1", "Characteristics extension 1", &Record::characteristicsExtension1},
         Field{"characteristicsExtension2", "Characteristics extension 2", &Record::characteristicsExtension2},
@@ -78,7 +78,7 @@ struct Description<Structures::Type2::Types::Type2Struct> {
         Field{"featureFlags", "Features", &Record::featureFlags},
         Field{"locationInChassis", "Location in chassis", &Record::locationInChassis},
         Field{"chassisHandle", "Chassis", &Record::chassisHandle, InHexadecimal{}},
-        Field{"boardTypeValue", "Board type", &Record::boardTypeValue, NamedBy{&Record::boardType}},
+        Field{"boardTypeValue", "Board type", &Record::boardTypeValue, NamedBy{&Record::boardType, 2, 1}},
         Field{"boardType", kShownElsewhere, &Record::boardType},
         Field{
             "containedObjectHandles", "Contained objects", &Record::containedObjectHandles, InHexadecimal{}},
@@ -89,7 +89,7 @@ template <>
 struct Description<Structures::Type3::Types::ContainedElement> {
     using Part = Structures::Type3::Types::ContainedElement;
     static constexpr std::tuple kFields{
-        Field{"typeValue", kNoLabel, &Part::typeValue, NamedBy{&Part::typeName}},
+        Field{"typeValue", kNoLabel, &Part::typeValue, NamedBy{&Part::typeName, kNoCode, kNoCode}},
         Field{"typeSelect", kNoLabel, &Part::typeSelect},
         Field{"typeName", kShownElsewhere, &Part::typeName},
         Field{"minimum", "minimum", &Part::minimum},
@@ -124,7 +124,7 @@ struct Description<Structures::Type3::Types::Type3Struct> {
               NamedBy{&Record::securityStatus}},
         Field{"securityStatus", kShownElsewhere, &Record::securityStatus},
         Field{"oemDefined", "OEM-defined", &Record::oemDefined, InHexadecimal{}},
-        Field{"height", "Height", &Record::height, Unit{"U"}},
+        Field{"height", "Height", &Record::height, UnitUnlessZero{"U", "not specified"}},
         Field{"numberOfPowerCords", "Power cords", &Record::numberOfPowerCords},
         Field{"skuNumber", "SKU number", &Record::skuNumber},
         Field{"containedElements", "Contained elements", &Record::containedElements},

@@ -16,15 +16,28 @@ Lines RecordText::LinesOf(const std::vector<std::uint8_t>& bytes) {
     return texts.empty() ? Lines() : Lines{Joined(texts, " ")};
 }
 
-Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags) {
+Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits) {
     Lines names;
     for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
-        if (flags.Test(bit)) {
-            const char* const name = flags.GetBitName(bit);
-            names.push_back(name == nullptr ? "bit " + std::to_string(bit) : name);
+        if (!flags.Test(bit)) {
+            continue;
+        }
+        const char* const name = flags.GetBitName(bit);
+        const Lines word = WordFor(static_cast<int>(bit), bits.other, bits.unknown);
+        if (name != nullptr) {
+            names.emplace_back(name);
+        } else {
+            names.push_back(word.empty() ? "bit " + std::to_string(bit) : word.front());
         }
     }
     return {names.empty() ? "none" : Joined(names, ", ")};
+}
+
+Lines RecordText::WordFor(int number, int other, int unknown) {
+    if (number == unknown) {
+        return {"Unknown"};
+    }
+    return number == other ? Lines{"Other"} : Lines();
 }
 
 std::string RecordText::Joined(const Lines& texts, const char* separator) {

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] static Lines LinesOf(const std::vector<std::uint8_t>& bytes);
 
     /// The names of the flags that are set.
-    [[nodiscard]] static Lines LinesOf(const Common::Dynamic_BitSet& flags);
+    [[nodiscard]] static Lines LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits = {});
 
     /// The fields of a part of a record, in one line.
     template <Described Part>
@@ -113,9 +113,29 @@ private:
     static Lines InForm(const Value& value, const Record&, Unit unit) {
         Lines lines = LinesOf(value);
         for (std::string& line : lines) {
-            line += std::string(" ") + unit.name;
+            line += (*unit.name == '\0' ? "" : " ") + std::string(unit.name);
         }
         return lines;
+    }
+
+    template <std::unsigned_integral Number, class Record>
+    static Lines InForm(const std::optional<Number>& number, const Record& record, UnitUnlessZero unit) {
+        return number == Number{0} ? Lines{unit.zero} : InForm(number, record, Unit{unit.name});
+    }
+
+    template <class Record>
+    static Lines InForm(const std::optional<std::uint16_t>& handle, const Record& record, HandleOr words) {
+        return handle == 0xFFFF ? Lines{words.none} : InForm(handle, record, InHexadecimal{});
+    }
+
+    template <class Record>
+    static Lines InForm(const std::optional<std::uint16_t>& handle, const Record& record, HandleOfError) {
+        return handle == 0xFFFE ? Lines{"not provided"} : InForm(handle, record, HandleOr{"no error"});
+    }
+
+    template <class Record>
+    static Lines InForm(const std::optional<Common::Dynamic_BitSet>& flags, const Record&, UnnamedBits bits) {
+        return flags ? LinesOf(*flags, bits) : Lines();
     }
 
     template <std::unsigned_integral Number, class Record>
@@ -125,8 +145,11 @@ private:
 
     template <class Value, class Record, class Owner, class Text>
     static Lines InForm(const Value& code, const Record& record, NamedBy<Owner, Text> name) {
-        const Lines text = LinesOf(record.*name.text);
         const Lines number = LinesOf(code);
+        Lines text = LinesOf(record.*name.text);
+        if (text.empty() && !number.empty()) {
+            text = WordFor(std::stoi(number.front()), name.other, name.unknown);
+        }
         if (text.empty() || number.empty()) {
             return text.empty() ? number : text;
         }
@@ -156,6 +179,9 @@ private:
         }
         return texts.empty() ? Lines() : Lines{Joined(texts, ", ")};
     }
+
+    /// The word for a code or a bit that has no text; none for any other number.
+    [[nodiscard]] static Lines WordFor(int number, int other, int unknown);
 
     [[nodiscard]] static std::string Joined(const Lines& texts, const char* separator);
 };

@@ -16,6 +16,7 @@ struct RecordWriter {
     std::vector<FieldText> (*texts)(const Structures::BaseStructure& decoder);
     const std::vector<std::uint8_t>& (*rawBytes)(const Structures::BaseStructure& decoder);
     const std::string& (*error)(const Structures::BaseStructure& decoder);
+    std::uint8_t leastLength;  ///< of a structure that the decoder accepts
 };
 
 /// The writer of a `Decoder`'s records. Made beside the description of the record, in its source, so that

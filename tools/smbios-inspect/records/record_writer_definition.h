@@ -31,6 +31,7 @@ RecordWriter WriterOf() {
         .error = [](const BaseStructure& decoder) -> const std::string& {
             return RecordOf<Decoder>(decoder).error;
         },
+        .leastLength = Decoder::LeastLength(),
     };
 }
 

@@ -118,23 +118,30 @@ void PrintTable(const MemoryInfo& info, const OutputStyle& style, std::ostream& 
     table.Print(style, output);
 }
 
-std::size_t DevicesInTable() {
-    return SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::MemoryDevice).size();
+UnlistedStructures UnlistedOf(const MemoryInfo& info) {
+    const SmbiosManager& manager = *SmbiosManager::GetInstance();
+    return {.listed = info.GetMemoryDeviceCount(),
+            .total = manager.GetStructuresByType(StructureTypes::MemoryDevice).size(),
+            .noun = "memory device",
+            .identifier = "a serial number",
+            .type = 17};
 }
 
-void PrintText(const MemoryInfo& info, const OutputStyle& style, std::ostream& output) {
-    const std::size_t listed = info.GetMemoryDeviceCount();
-    const std::size_t total = DevicesInTable();
-    if (listed != 0 || total == 0) {
+void PrintAsJson(const MemoryInfo& info, std::ostream& output) {
+    Json report = RowsToJson("devices", info, info.GetMemoryDeviceCount(), kValues);
+    report["unlisted"] = UnlistedOf(info).Count();
+    PrintJson(report, output);
+}
+
+void PrintAsText(const MemoryInfo& info,
+                 const Request& request,
+                 const OutputStyle& style,
+                 std::ostream& output) {
+    const UnlistedStructures unlisted = UnlistedOf(info);
+    if (unlisted.listed != 0 || unlisted.total == 0) {
         PrintTable(info, style, output);
     }
-    PrintUnlistedNote({.listed = listed,
-                       .total = total,
-                       .noun = "memory device",
-                       .identifier = "a serial number",
-                       .type = 17},
-                      style,
-                      output);
+    PrintUnlistedNote(unlisted, request, style, output);
 }
 
 }  // namespace
@@ -143,9 +150,9 @@ void ReportMemory(const Request& request, const OutputStyle& style, std::ostream
     MemoryInfo info;
     info.RetrieveInfo();
     if (request.json) {
-        PrintJson(RowsToJson("devices", info, info.GetMemoryDeviceCount(), kValues), output);
+        PrintAsJson(info, output);
     } else {
-        PrintText(info, style, output);
+        PrintAsText(info, request, style, output);
     }
 }
 

@@ -104,9 +104,18 @@ std::string VoltageText(const ProcessorInfo& info, std::size_t index) {
 }
 
 void PrintTable(const ProcessorInfo& info, const OutputStyle& style, std::ostream& output) {
-    ColumnTable table(
-        {"SOCKET", "NAME", "CORES", "THREADS", "SPEED", "MAXIMUM", "L1", "L2", "L3", "VOLTAGE", "STATUS"},
-        "no processors");
+    ColumnTable table({"SOCKET",
+                       "NAME",
+                       "CORES",
+                       "THREADS",
+                       "SPEED",
+                       "MAXIMUM",
+                       "L1 MAX",
+                       "L2 MAX",
+                       "L3 MAX",
+                       "VOLTAGE",
+                       "STATUS"},
+                      "no processors");
     for (std::size_t i = 0; i < info.GetCPUCount(); ++i) {
         table.Add({TextOrNothing(info.GetSocketDesignation(i)),
                    TextOrNothing(info.GetVersion(i)),
@@ -123,20 +132,30 @@ void PrintTable(const ProcessorInfo& info, const OutputStyle& style, std::ostrea
     table.Print(style, output);
 }
 
-std::size_t ProcessorsInTable() {
-    return SmbiosManager::GetInstance()->GetStructuresByType(StructureTypes::ProcessorInformation).size();
+UnlistedStructures UnlistedOf(const ProcessorInfo& info) {
+    const SmbiosManager& manager = *SmbiosManager::GetInstance();
+    return {.listed = info.GetCPUCount(),
+            .total = manager.GetStructuresByType(StructureTypes::ProcessorInformation).size(),
+            .noun = "processor",
+            .identifier = "a processor id",
+            .type = 4};
 }
 
-void PrintText(const ProcessorInfo& info, const OutputStyle& style, std::ostream& output) {
-    const std::size_t listed = info.GetCPUCount();
-    const std::size_t total = ProcessorsInTable();
-    if (listed != 0 || total == 0) {
+void PrintAsJson(const ProcessorInfo& info, std::ostream& output) {
+    Json report = RowsToJson("processors", info, info.GetCPUCount(), kValues);
+    report["unlisted"] = UnlistedOf(info).Count();
+    PrintJson(report, output);
+}
+
+void PrintAsText(const ProcessorInfo& info,
+                 const Request& request,
+                 const OutputStyle& style,
+                 std::ostream& output) {
+    const UnlistedStructures unlisted = UnlistedOf(info);
+    if (unlisted.listed != 0 || unlisted.total == 0) {
         PrintTable(info, style, output);
     }
-    PrintUnlistedNote(
-        {.listed = listed, .total = total, .noun = "processor", .identifier = "a processor id", .type = 4},
-        style,
-        output);
+    PrintUnlistedNote(unlisted, request, style, output);
 }
 
 }  // namespace
@@ -145,9 +164,9 @@ void ReportProcessors(const Request& request, const OutputStyle& style, std::ost
     ProcessorInfo info;
     info.RetrieveInfo();
     if (request.json) {
-        PrintJson(RowsToJson("processors", info, info.GetCPUCount(), kValues), output);
+        PrintAsJson(info, output);
     } else {
-        PrintText(info, style, output);
+        PrintAsText(info, request, style, output);
     }
 }
 

@@ -21,6 +21,7 @@
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/records/filed_structure.h"
 #include "smbios-inspect/records/memory_size.h"
+#include "smbios-inspect/reports/table_end.h"
 #include "structures/string_lookup.h"
 #include "structures/type_0.h"
 #include "structures/type_1.h"
@@ -104,15 +105,18 @@ public:
     }
 
     /// Prints a line of its own below what was printed last.
-    void PrintWarning(const std::string& text) {
-        for (const std::string& line : Lines({text})) {
-            PrintLine(Emphasised(line, Emphasis::warning, style_));
-        }
-    }
+    void PrintRemark(const std::string& text) { PrintEmphasised(text, Emphasis::none); }
+    void PrintWarning(const std::string& text) { PrintEmphasised(text, Emphasis::warning); }
 
 private:
     static constexpr std::size_t kLabelWidth = 12;
     static constexpr std::string_view kContinuation = "  ";
+
+    void PrintEmphasised(const std::string& text, Emphasis emphasis) {
+        for (const std::string& line : Lines({text})) {
+            PrintLine(Emphasised(line, emphasis, style_));
+        }
+    }
 
     void PrintItem(Item item, std::size_t count) {
         std::erase(item, "");
@@ -351,25 +355,36 @@ private:
     std::uint64_t bytes_ = 0;
 };
 
-/// The structures of a table that could not be decoded.
+/// Structures of a table that have something in common.
+struct StructureCount {
+    std::size_t count = 0;
+    std::set<std::uint8_t> types;
+
+    void Add(const FiledStructure& structure) {
+        ++count;
+        types.insert(TypeOf(structure));
+    }
+};
+
+/// The structures of a table without values: a sound one may be of a version that the library does not
+/// decode.
 struct UndecodedStructures {
-    std::size_t failed = 0;
-    std::set<std::uint8_t> failedTypes;
+    StructureCount refused;
+    StructureCount damaged;
 
     explicit UndecodedStructures(const DecodedTable& table) {
         for (const FiledStructure& structure : table.structures) {
             if (!ErrorOf(structure).empty()) {
-                ++failed;
-                failedTypes.insert(TypeOf(structure));
+                (IsDamaged(structure) ? damaged : refused).Add(structure);
             }
         }
     }
 };
 
-/// "types 0, 17", of the structures that could not be decoded.
-std::string FailedTypesText(const UndecodedStructures& count) {
+/// "types 0, 17".
+std::string TypesText(const StructureCount& count) {
     std::vector<std::string> types;
-    for (const unsigned type : count.failedTypes) {
+    for (const unsigned type : count.types) {
         types.push_back(std::to_string(type));
     }
     return (types.size() == 1 ? "type " : "types ") + Joined(types, ", ");
@@ -378,8 +393,9 @@ std::string FailedTypesText(const UndecodedStructures& count) {
 }  // namespace
 
 void ReportSummary(const OutputStyle& style, std::ostream& output) {
-    const DecodedTable table = Manager::DecodeTable(Manager::ReadRawTable());
-    const UndecodedStructures count(table);
+    const std::vector<std::uint8_t> rawTable = Manager::ReadRawTable();
+    const DecodedTable table = Manager::DecodeTable(rawTable);
+    const auto [refused, damaged] = UndecodedStructures(table);
 
     Printer printer(style, output);
     printer.Print("Firmware", DescribeAll<Structures::Type_0>(table));
@@ -391,9 +407,16 @@ void ReportSummary(const OutputStyle& style, std::ostream& output) {
     printer.Print(
         "Table",
         {{"SMBIOS " + table.version.text, Counted(std::optional(table.structures.size()), "structure")}});
-    if (count.failed != 0) {
-        printer.PrintWarning(Counted(std::optional(count.failed), "structure") +
-                             " with errors: " + FailedTypesText(count));
+    if (refused.count != 0) {
+        printer.PrintRemark(Counted(std::optional(refused.count), "structure") +
+                            " that this library does not decode (" + TypesText(refused) + ")");
+    }
+    if (damaged.count != 0) {
+        printer.PrintWarning(Counted(std::optional(damaged.count), "structure") +
+                             " with errors: " + TypesText(damaged));
+    }
+    if (MayBeCutShort(rawTable)) {
+        printer.PrintWarning(kCutShortText);
     }
 }
 
