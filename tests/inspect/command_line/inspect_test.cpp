@@ -137,11 +137,15 @@ INSTANTIATE_TEST_SUITE_P(Tables,
                          NameOfJsonCase);
 
 TEST(Inspect, PrintsTheSameBytesOnEverySystem) {
+    // Copies, because every shell has its own way to quote the path of a checkout.
     const TemporaryFolder folder;
+    const std::filesystem::path tool = std::filesystem::path(SMBIOS_INSPECT).filename();
+    std::filesystem::copy_file(SMBIOS_INSPECT, folder.Path() / tool);
+    std::filesystem::copy_file(SMBIOS_SAMPLE_TABLE, folder.Path() / "table");
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(folder.Path());
-    const std::string tool = std::filesystem::path(SMBIOS_INSPECT).make_preferred().string();
-    EXPECT_EQ(std::system((tool + " memory --json --from " SMBIOS_SAMPLE_TABLE " >output").c_str()), 0);
+    const std::string command = ("." / tool).make_preferred().string();
+    EXPECT_EQ(std::system((command + " memory --json --from table >output").c_str()), 0);
     std::filesystem::current_path(before);
     EXPECT_EQ(ContentsOf(folder.Path() / "output"), GoldenText("memory.json"));
 }

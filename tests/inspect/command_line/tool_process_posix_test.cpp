@@ -19,16 +19,15 @@ protected:
         }
     }
 
-    /// Runs `script`, in which $tool is the tool and $table the sample, and returns what it prints on both
-    /// streams.
+    /// Runs `script` in a folder of its own, in which $tool is the tool and $table the sample, and returns
+    /// what it prints on both streams.
     [[nodiscard]] std::string Run(const std::string& script) const {
-        const std::filesystem::path file =
-            folder_.Write("script", "cd " + folder_.Path().string() + "\n" + script);
-        const std::filesystem::path output = folder_.Path() / "output";
-        const std::string command = "tool='" SMBIOS_INSPECT "' table='" SMBIOS_SAMPLE_TABLE "' /bin/bash " +
-                                    file.string() + " >" + output.string() + " 2>&1";
-        EXPECT_EQ(std::system(command.c_str()), 0);
-        return ContentsOf(output);
+        ::setenv("tool", SMBIOS_INSPECT, 1);
+        ::setenv("table", SMBIOS_SAMPLE_TABLE, 1);
+        ::setenv("folder", folder_.Path().c_str(), 1);
+        folder_.Write("script", script);
+        EXPECT_EQ(std::system("cd \"$folder\" && /bin/bash script >output 2>&1"), 0);
+        return ContentsOf(folder_.Path() / "output");
     }
 
     TemporaryFolder folder_;
