@@ -47,7 +47,7 @@ download_json_library() {
 json_release_of_package() {
     local package=$1 version
     shift
-    version=$(apt-cache "$@" show --no-all-versions "$package" 2>>"$log" | awk '$1 == "Version:" { print $2; exit }')
+    version=$(apt-cache "$@" show --no-all-versions "$package" 2>/dev/null | awk '$1 == "Version:" { print $2; exit }')
     version=${version#*:}
     version=${version##*really.}
     echo "${version%-*}"

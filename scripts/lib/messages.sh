@@ -1,5 +1,5 @@
 # What the scripts say of themselves, all of it on standard error: standard output belongs to what was asked for.
-# To be sourced.
+# To be sourced under `set -o pipefail`.
 
 say() {
     echo "${0##*/}: $*" >&2

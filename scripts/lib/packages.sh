@@ -39,9 +39,9 @@ apt_install() {
         apt-get -qq install -y --no-install-recommends -o DPkg::Lock::Timeout=300 "$@"
 }
 
-# The line that tells most: the first error of apt or sudo, or else the last line.
+# The line that tells most of what apt or sudo printed.
 first_error() {
-    grep -m 1 -E '^(E|sudo): ' "$1" || tail -n 1 "$1"
+    grep -m 1 -E '^(E|sudo): ' "$1" || grep -m 1 '^W: ' "$1" || tail -n 1 "$1"
 }
 
 # The mirrors of the system's own Debian release, whatever they are.
