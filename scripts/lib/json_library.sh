@@ -13,7 +13,7 @@ provide_json_library() {
     rm -rf "$work"
     mkdir -p "$work" "$prefix/include" "$prefix/share/cmake"
     : >"$log"
-    take_json_headers /usr || download_json_library || download_newer_json_library ||
+    take_json_headers /usr || take_json_headers /usr/local || download_json_library || download_newer_json_library ||
         fail "neither this system's packages nor Debian's ${newer_suites[*]} gave nlohmann JSON 3.12" \
             "($(first_error "$log")); install nlohmann-json3.12-dev or newer by hand"
     rm -rf "$work"
@@ -22,7 +22,8 @@ provide_json_library() {
 # take_json_headers FROM: moves nothing into place that is too old or not complete.
 take_json_headers() {
     local from=$1 macros="$1/include/nlohmann/detail/abi_macros.hpp"
-    [ -f "$macros" ] && is_new_json "$(json_release_of "$macros")" || return
+    [ -f "$macros" ] && [ -d "$from/share/cmake/nlohmann_json" ] && is_new_json "$(json_release_of "$macros")" ||
+        return
     cp -r "$from/share/cmake/nlohmann_json" "$prefix/share/cmake/" &&
         cp -r "$from/include/nlohmann" "$work/" &&
         mv "$work/nlohmann" "$prefix/include/"

@@ -1,12 +1,13 @@
 # Debian's packages, and where this system gets them from. To be sourced after messages.sh.
 
-system_name() {
-    (. /etc/os-release && echo "$PRETTY_NAME") 2>/dev/null || echo "this system"
+# os_release NAME DEFAULT: what the system says of itself, where it does.
+os_release() {
+    (. /etc/os-release && echo "${!1:?}") 2>/dev/null || echo "$2"
 }
 
 require_debian() {
     command -v apt-get >/dev/null && command -v dpkg-query >/dev/null ||
-        fail "$(system_name) has no apt-get; install CMake 3.25, g++ 12, Ninja, nlohmann JSON 3.12, {fmt} and" \
+        fail "$(os_release PRETTY_NAME "this system") has no apt-get; install CMake 3.25, g++ 12, Ninja, nlohmann JSON 3.12, {fmt} and" \
             "GoogleTest by hand, then: cmake --preset linux-release && cmake --build --preset linux-release"
 }
 
@@ -47,10 +48,10 @@ first_error() {
 # The mirrors of the system's own Debian release, whatever they are.
 debian_mirrors() {
     local suite
-    suite=$(. /etc/os-release && echo "${VERSION_CODENAME:-sid}")
+    suite=$(os_release VERSION_CODENAME sid)
     apt-get indextargets --format '$(RELEASE) $(COMPONENT) $(REPO_URI)' 'Created-By: Packages' |
-        awk -v suite="$suite" '
-            $2 == "main" && ($1 == suite || $1 ~ /^(oldstable|stable|testing|unstable|sid)$/) && !seen[$3]++ { print $3 }'
+        awk -v suites="^($suite|oldstable|stable|testing|unstable|sid)\$" \
+            '$1 ~ suites && $2 == "main" && !seen[$3]++ { print $3 }'
 }
 
 # source_line MIRROR SUITE: an entry for apt's list of sources.
