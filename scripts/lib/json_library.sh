@@ -61,7 +61,7 @@ is_new_json() {
 unpack_package() {
     local package=$1
     shift
-    rm -rf "$work/unpacked"
+    rm -rf "$work/unpacked" "$work"/*.deb
     (cd "$work" && apt-get -qq -o APT::Sandbox::User="$(id -un)" "$@" download "$package") >>"$log" 2>&1 &&
         dpkg -x "$work/$package"_*.deb "$work/unpacked"
 }

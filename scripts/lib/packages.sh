@@ -7,8 +7,9 @@ os_release() {
 
 require_debian() {
     command -v apt-get >/dev/null && command -v dpkg-query >/dev/null ||
-        fail "$(os_release PRETTY_NAME "this system") has no apt-get; install CMake 3.25, g++ 12, Ninja, nlohmann JSON 3.12, {fmt} and" \
-            "GoogleTest by hand, then: cmake --preset linux-release && cmake --build --preset linux-release"
+        fail "$(os_release PRETTY_NAME "this system") has no apt-get; install CMake 3.25, g++ 12, Ninja," \
+            "nlohmann JSON 3.12, {fmt} and GoogleTest by hand, then:" \
+            "cmake --preset linux-release && cmake --build --preset linux-release"
 }
 
 is_installed() {
