@@ -71,6 +71,14 @@ TEST_F(ToolProcess, LeavesNothingHalfWrittenBehind) {
               "smbios-inspect: cannot write saved/table: File too large\n");
 }
 
+TEST_F(ToolProcess, LeavesNothingHalfWrittenBehindWhenASignalEndsIt) {
+    EXPECT_EQ(
+        Run("mkdir saved\n"
+            "{ (ulimit -c 0 -f 1; \"$tool\" save saved/table --from \"$table\"); status=$?; } 2>/dev/null\n"
+            "kill -l $status; ls -A saved"),
+        "XFSZ\n");
+}
+
 TEST_F(ToolProcess, HasNoColoursAndNoLimitInAFile) {
     EXPECT_EQ(Run("\"$tool\" processors --from \"$table\""), GoldenText("processors.txt"));
 }
