@@ -59,12 +59,22 @@ struct EndProgram {
 
 using ProgramStream = std::unique_ptr<FILE, EndProgram>;
 
+/// The same under a number that no standard stream has, which would be in the way of the program's own.
+Descriptor BeyondStandardStreams(Descriptor descriptor) noexcept {
+    return descriptor.Number() > STDERR_FILENO
+               ? std::move(descriptor)
+               : Descriptor(::fcntl(descriptor.Number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+}
+
+/// Both ends are open, or neither.
 Pipe OpenPipe() noexcept {
     int ends[2] = {-1, -1};
     if (::pipe2(ends, O_CLOEXEC) != 0) {
         return {};
     }
-    return {Descriptor(ends[0]), Descriptor(ends[1])};
+    Descriptor readEnd = BeyondStandardStreams(Descriptor(ends[0]));
+    Descriptor writeEnd = BeyondStandardStreams(Descriptor(ends[1]));
+    return readEnd.IsOpen() && writeEnd.IsOpen() ? Pipe{std::move(readEnd), std::move(writeEnd)} : Pipe{};
 }
 
 ssize_t ReadCookie(void* cookie, char* buffer, size_t size) noexcept {
@@ -86,16 +96,18 @@ ProgramStream OpenStream(Descriptor descriptor) {
     return stream;
 }
 
-/// Where a program's standard output goes.
-class OutputRedirection {
+/// A program's standard streams: its output goes into a pipe, the others are this process's. One that is
+/// closed in this process cannot be read from or printed to, but its number is taken: a file that the program
+/// opens must not get it.
+class Streams {
 public:
-    explicit OutputRedirection(int descriptor) noexcept
+    explicit Streams(int output) noexcept
         : isReady_(::posix_spawn_file_actions_init(&actions_) == 0),
-          isComplete_(isReady_ &&
-                      ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDOUT_FILENO) == 0) {}
-    OutputRedirection(const OutputRedirection&) = delete;
-    OutputRedirection& operator=(const OutputRedirection&) = delete;
-    ~OutputRedirection() {
+          isComplete_(isReady_ && ::posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO) == 0 &&
+                      Hold(STDIN_FILENO) && Hold(STDERR_FILENO)) {}
+    Streams(const Streams&) = delete;
+    Streams& operator=(const Streams&) = delete;
+    ~Streams() {
         if (isReady_) {
             ::posix_spawn_file_actions_destroy(&actions_);
         }
@@ -105,6 +117,11 @@ public:
     [[nodiscard]] const posix_spawn_file_actions_t* Actions() const noexcept { return &actions_; }
 
 private:
+    bool Hold(int stream) noexcept {
+        const bool isOpen = ::fcntl(stream, F_GETFD) >= 0;
+        return isOpen || ::posix_spawn_file_actions_addopen(&actions_, stream, "/", O_PATH, 0) == 0;
+    }
+
     posix_spawn_file_actions_t actions_;
     bool isReady_;
     bool isComplete_;
@@ -161,19 +178,16 @@ std::vector<char*> ArgumentsOf(std::vector<std::string>& elements) {
 /// Returns the program's process id, or 0 when it cannot be started.
 pid_t Spawn(std::vector<std::string>& elements, int output) {
     const std::vector<char*> arguments = ArgumentsOf(elements);
-    const OutputRedirection redirection(output);
+    const Streams streams(output);
     const SignalAttributes signals;
-    if (!redirection.IsComplete() || !signals.IsComplete()) {
+    if (!streams.IsComplete() || !signals.IsComplete()) {
         return 0;
     }
     for (const std::string& file : FilesOf(elements.front())) {
         pid_t program = 0;
-        if (::posix_spawn(&program,
-                          file.c_str(),
-                          redirection.Actions(),
-                          signals.Attributes(),
-                          arguments.data(),
-                          environ) == 0) {
+        if (::posix_spawn(
+                &program, file.c_str(), streams.Actions(), signals.Attributes(), arguments.data(), environ) ==
+            0) {
             return program;
         }
     }

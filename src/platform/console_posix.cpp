@@ -1,5 +1,6 @@
 #include "platform/console.h"
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -16,11 +17,24 @@ void WaitForRoom(int descriptor) noexcept {
     ::poll(&waited, 1, -1);
 }
 
+/// Takes the numbers of standard streams that are closed: a file that got one would be read or printed into
+/// in their place. Reading from and printing to them fails as before.
+void HoldClosedStreams() noexcept {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) < 0) {
+            ::open("/", O_PATH);  // gets the lowest number that is free
+        }
+    }
+}
+
 }  // namespace
 
 struct Console::Settings {};
 
-Console::Console() : takesEscapeSequences_(::isatty(STDOUT_FILENO) != 0) {}
+Console::Console() {
+    HoldClosedStreams();
+    takesEscapeSequences_ = ::isatty(STDOUT_FILENO) != 0;
+}
 
 Console::~Console() = default;
 

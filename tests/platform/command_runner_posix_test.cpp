@@ -333,10 +333,45 @@ TEST(PosixCommandRunner, LosesNothingWhenSignalsInterruptIt) {
     ::_exit(isGood ? 0 : 1);
 }
 
+/// Every choice of standard streams.
+std::vector<std::vector<int>> ChoicesOfStreams() {
+    std::vector<std::vector<int>> choices;
+    for (unsigned choice = 0; choice < 8; ++choice) {
+        std::vector<int>& streams = choices.emplace_back();
+        for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+            if ((choice >> stream & 1U) != 0) {
+                streams.push_back(stream);
+            }
+        }
+    }
+    return choices;
+}
+
 [[noreturn]] void EchoWithoutDescriptors(const std::vector<int>& closed) {
     std::for_each(closed.begin(), closed.end(), ::close);
     const std::vector<int> before = OpenDescriptors();
     EndProcess(OutputOf("echo hello") == "hello\n" && OpenDescriptors() == before);
+}
+
+[[noreturn]] void ShowStreamsOfTheProgram() {
+    ::close(STDIN_FILENO);
+    ::close(STDERR_FILENO);
+    EndProcess(OutputOf("readlink /proc/self/fd/0 /proc/self/fd/2") == "/\n/\n");
+}
+
+[[noreturn]] void PrintToTheProgramsError() {
+    ::close(STDERR_FILENO);
+    EndProcess(OutputOf(R"(sh -c "echo lost >&2; echo kept")") == "kept\n");
+}
+
+[[noreturn]] void EchoWithRoomFor(rlim_t descriptors, const std::vector<int>& closed) {
+    std::for_each(closed.begin(), closed.end(), ::close);
+    const rlimit limit{descriptors, descriptors};
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    ::alarm(10);
+    std::string output = "before";
+    const bool starts = MachineCommandRunner().Run("echo hello", output);
+    EndProcess(output == (starts ? "hello\n" : "before") && HasNoChildren());
 }
 
 [[noreturn]] void EchoWithoutRoomForAPipe() {
@@ -346,17 +381,28 @@ TEST(PosixCommandRunner, LosesNothingWhenSignalsInterruptIt) {
     EndProcess(startsAtFirst && !Starts("echo hello") && HasNoChildren());
 }
 
-TEST(PosixCommandRunnerDeathTest, WorksWithoutStandardInput) {
-    EXPECT_EXIT(EchoWithoutDescriptors({STDIN_FILENO}), testing::ExitedWithCode(0), "");
+TEST(PosixCommandRunnerDeathTest, WorksWithoutStandardStreams) {
+    for (const std::vector<int>& closed : ChoicesOfStreams()) {
+        EXPECT_EXIT(EchoWithoutDescriptors(closed), testing::ExitedWithCode(0), "")
+            << testing::PrintToString(closed);
+    }
 }
 
-TEST(PosixCommandRunnerDeathTest, WorksWithoutStandardOutput) {
-    EXPECT_EXIT(EchoWithoutDescriptors({STDOUT_FILENO}), testing::ExitedWithCode(0), "");
+TEST(PosixCommandRunnerDeathTest, LetsNoFileOfTheProgramTakeThePlaceOfAClosedStream) {
+    EXPECT_EXIT(ShowStreamsOfTheProgram(), testing::ExitedWithCode(0), "");
 }
 
-TEST(PosixCommandRunnerDeathTest, WorksWithoutStandardInputAndOutput) {
-    const std::vector<int> both{STDIN_FILENO, STDOUT_FILENO};
-    EXPECT_EXIT(EchoWithoutDescriptors(both), testing::ExitedWithCode(0), "");
+TEST(PosixCommandRunnerDeathTest, CapturesNoStandardErrorWhereThereIsNone) {
+    EXPECT_EXIT(PrintToTheProgramsError(), testing::ExitedWithCode(0), "");
+}
+
+TEST(PosixCommandRunnerDeathTest, RunsOrRefusesWithLittleRoomForDescriptors) {
+    for (rlim_t descriptors = 3; descriptors < 12; ++descriptors) {
+        for (const std::vector<int>& closed : ChoicesOfStreams()) {
+            EXPECT_EXIT(EchoWithRoomFor(descriptors, closed), testing::ExitedWithCode(0), "")
+                << descriptors << " without " << testing::PrintToString(closed);
+        }
+    }
 }
 
 TEST(PosixCommandRunnerDeathTest, RefusesWhenThereIsNoRoomForAPipe) {

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <string>
 #include <thread>
@@ -62,6 +63,21 @@ private:
     int kept_;
     int readEnd_ = -1;
 };
+
+[[noreturn]] void CloseStreamsAndOpenAFile() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        ::close(stream);
+    }
+    const Console console;
+    const bool fails = console.Write("text") == std::errc::bad_file_descriptor;
+    char character = 0;
+    const bool hasNoInput = ::read(STDIN_FILENO, &character, 1) == -1 && errno == EBADF;
+    ::_exit(fails && hasNoInput && ::open("/dev/null", O_RDWR) > STDERR_FILENO ? 0 : 1);
+}
+
+TEST(PosixConsoleDeathTest, LetsNoFileTakeThePlaceOfAClosedStream) {
+    EXPECT_EXIT(CloseStreamsAndOpenAFile(), testing::ExitedWithCode(0), "");
+}
 
 TEST(PosixConsole, WaitsForRoomInANonBlockingPipe) {
     const std::string text(kMoreThanAPipeHolds, 'x');

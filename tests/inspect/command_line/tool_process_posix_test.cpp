@@ -10,6 +10,9 @@
 namespace SMBIOS::Tests {
 namespace {
 
+/// Closes what the test's own parents may have left open.
+constexpr const char* kCloseOthers = "exec 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&-\n";
+
 /// The tool as a process, with a shell around it to say where it reads and prints.
 class ToolProcess : public testing::Test {
 protected:
@@ -25,7 +28,7 @@ protected:
         ::setenv("tool", SMBIOS_INSPECT, 1);
         ::setenv("table", SMBIOS_SAMPLE_TABLE, 1);
         ::setenv("folder", folder_.Path().c_str(), 1);
-        folder_.Write("script", script);
+        folder_.Write("script", kCloseOthers + script);
         EXPECT_EQ(std::system("cd \"$folder\" && /bin/bash script >output 2>&1"), 0);
         return ContentsOf(folder_.Path() / "output");
     }
@@ -44,6 +47,54 @@ TEST_F(ToolProcess, ReadsAPipe) {
 TEST_F(ToolProcess, TellsWhyStandardInputCannotBeRead) {
     EXPECT_EQ(Run("\"$tool\" --from - <&-; echo $?"),
               "smbios-inspect: cannot open standard input: Bad file descriptor\n1\n");
+}
+
+TEST_F(ToolProcess, SavesWithoutStandardStreams) {
+    EXPECT_EQ(Run("for closed in '' '<&-' '>&-' '2>&-' '<&- >&-' '<&- 2>&-' '>&- 2>&-' '<&- >&- 2>&-'; do\n"
+                  "  eval '\"$tool\" save saved --from \"$table\"' \"$closed\"; echo -n $?\n"
+                  "  cmp saved \"$table\"; rm saved\n"
+                  "done"),
+              "00000000");
+}
+
+TEST_F(ToolProcess, FailsWithoutStandardOutput) {
+    EXPECT_EQ(Run("\"$tool\" --from \"$table\" >&-; echo $?"),
+              "smbios-inspect: cannot write to standard output: Bad file descriptor\n1\n");
+    EXPECT_EQ(Run("for closed in '>&-' '<&- >&-' '>&- 2>&-' '<&- >&- 2>&-'; do\n"
+                  "  eval '\"$tool\" --from \"$table\"' \"$closed\" 2>/dev/null; echo -n $?\n"
+                  "done"),
+              "1111");
+}
+
+TEST_F(ToolProcess, PrintsWithoutTheOtherStreams) {
+    EXPECT_EQ(Run("\"$tool\" --from \"$table\" <&- 2>&-; echo $?"), GoldenText("summary.txt") + "0\n");
+}
+
+TEST_F(ToolProcess, FailsWithoutAnyStreamToReadFrom) {
+    EXPECT_EQ(Run("mkdir saved\n"
+                  "\"$tool\" save saved/table --from - <&- >&- 2>&-; echo $?\n"
+                  "ls -A saved"),
+              "1\n");
+}
+
+TEST_F(ToolProcess, PrintsWithRoomForOneDescriptor) {
+    EXPECT_EQ(Run("(ulimit -n 4; exec \"$tool\" --from \"$table\"); echo $?"),
+              GoldenText("summary.txt") + "0\n");
+}
+
+TEST_F(ToolProcess, TellsThatThereIsNoRoomForADescriptor) {
+    EXPECT_EQ(Run("mkdir saved\n"
+                  "(ulimit -n 4; exec \"$tool\" save saved/table --from \"$table\"); echo $?\n"
+                  "ls -A saved"),
+              "smbios-inspect: cannot write saved/table: Too many open files\n1\n");
+}
+
+TEST_F(ToolProcess, SavesWithRoomForTwoDescriptors) {
+    EXPECT_EQ(Run("for room in 5 6 7 8; do\n"
+                  "  (ulimit -n $room; exec \"$tool\" save saved --from \"$table\"); echo -n $?\n"
+                  "  cmp saved \"$table\"; rm saved\n"
+                  "done"),
+              "0000");
 }
 
 TEST_F(ToolProcess, EndsQuietlyWhenItsReaderGoesAway) {
