@@ -397,6 +397,9 @@ TEST(PosixCommandRunnerDeathTest, CapturesNoStandardErrorWhereThereIsNone) {
 }
 
 TEST(PosixCommandRunnerDeathTest, RunsOrRefusesWithLittleRoomForDescriptors) {
+    if (kMemoryIsWatched) {
+        GTEST_SKIP() << "the sanitizer needs descriptors of its own";
+    }
     for (rlim_t descriptors = 3; descriptors < 12; ++descriptors) {
         for (const std::vector<int>& closed : ChoicesOfStreams()) {
             EXPECT_EXIT(EchoWithRoomFor(descriptors, closed), testing::ExitedWithCode(0), "")
