@@ -5,6 +5,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <stdexcept>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -12,6 +13,10 @@
 namespace SMBIOS::Wmi {
 
 namespace {
+
+/// The JSON library holds all characters since the last text or number. Far above any property's value; keeps
+/// an endless one from filling the memory.
+constexpr std::size_t kMostCharactersHeld = std::size_t{16} * 1024 * 1024;
 
 /// The characters of an answer, of which no more than a piece is held.
 class Characters {
@@ -21,12 +26,19 @@ public:
     [[nodiscard]] bool AtEnd() const noexcept { return piece_.empty(); }
     [[nodiscard]] char Front() const noexcept { return piece_.front(); }
 
+    /// Throws std::length_error when the reader holds too many characters.
     void RemoveFront() {
+        if (++held_ > kMostCharactersHeld) {
+            throw std::length_error("a part of PowerShell's answer is too long");
+        }
         piece_.remove_prefix(1);
         if (piece_.empty()) {
             ReadPiece();
         }
     }
+
+    /// Tells that the reader holds no character any more.
+    void Release() noexcept { held_ = 0; }
 
 private:
     /// Reads the next piece that holds something; at the end there is none.
@@ -40,6 +52,7 @@ private:
 
     Platform::ProgramOutput& answer_;
     std::string_view piece_;
+    std::size_t held_ = 0;
 };
 
 /// Goes once through characters, as the JSON library wants them.
@@ -90,8 +103,8 @@ void RefuseAsText(const PropertyValue& value) {
 /// manner are those that it calls. Of a member that is repeated the last one counts.
 class InstanceCollector {
 public:
-    InstanceCollector(const std::string& keyProperty, const PropertySet& properties)
-        : keyProperty_(keyProperty), properties_(properties) {}
+    InstanceCollector(Characters& characters, const std::string& keyProperty, const PropertySet& properties)
+        : characters_(characters), keyProperty_(keyProperty), properties_(properties) {}
 
     /// The key at which filing ended, as it is no text.
     [[nodiscard]] const std::optional<PropertyValue>& RefusedKey() const noexcept { return refusedKey_; }
@@ -100,10 +113,10 @@ public:
 
     bool null() { return Take(nullptr); }
     bool boolean(bool value) { return Take(value); }
-    bool number_integer(std::int64_t value) { return Take(value); }
-    bool number_unsigned(std::uint64_t value) { return Take(value); }
-    bool number_float(double value, const std::string&) { return Take(value); }
-    bool string(std::string& value) { return Take(std::move(value)); }
+    bool number_integer(std::int64_t value) { return TakeToken(value); }
+    bool number_unsigned(std::uint64_t value) { return TakeToken(value); }
+    bool number_float(double value, const std::string&) { return TakeToken(value); }
+    bool string(std::string& value) { return TakeToken(std::move(value)); }
     bool binary(const nlohmann::json::binary_t&) { return false; }  // no JSON text holds any
 
     bool start_array(std::size_t) {
@@ -131,6 +144,7 @@ public:
     }
 
     bool key(const std::string& name) {
+        characters_.Release();
         if (IsAtMember()) {
             const auto property = properties_.find(name);
             property_ = property != properties_.end() ? &*property : nullptr;
@@ -168,6 +182,13 @@ private:
         return true;
     }
 
+    /// Takes a text or a number.
+    template <class Value>
+    bool TakeToken(Value&& value) {
+        characters_.Release();
+        return Take(std::forward<Value>(value));
+    }
+
     void FileInstance() {
         if (!key_ || refusedKey_) {
             return;
@@ -179,6 +200,7 @@ private:
         }
     }
 
+    Characters& characters_;
     const std::string& keyProperty_;
     const PropertySet& properties_;
     Instances instances_;
@@ -199,8 +221,8 @@ void ReadAnswer(Platform::ProgramOutput& answer,
                 const std::string& keyProperty,
                 const PropertySet& properties,
                 Instances& instances) {
-    InstanceCollector collector(keyProperty, properties);
     Characters characters(answer);
+    InstanceCollector collector(characters, keyProperty, properties);
     nlohmann::json::sax_parse(CharacterIterator(&characters), CharacterIterator(), &collector);
     instances = collector.TakeInstances();
     if (collector.RefusedKey()) {

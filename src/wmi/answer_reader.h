@@ -13,7 +13,8 @@ namespace SMBIOS::Wmi {
 /// first instance of a key stays; one without a key is skipped. Nothing else of the answer is kept, however
 /// deep it is nested and long it is. Throws nlohmann::json's own exceptions: for text that is not JSON, when
 /// nothing is filed and the rest is not read, and for a key that is no text, when the instances before that
-/// one are filed.
+/// one are filed. Throws std::length_error, with nothing filed, for 16 MiB within or between two texts or
+/// numbers.
 void ReadAnswer(Platform::ProgramOutput& answer,
                 const std::string& keyProperty,
                 const PropertySet& properties,

@@ -33,7 +33,8 @@ struct WmiQuery {
     /// Runs the query and files the requested properties of every instance under the text of its
     /// `keyProperty`; the first instance of a key stays. `result` is empty when nothing was found or
     /// PowerShell cannot be started. Throws nlohmann::json's own exceptions for text that is not JSON and for
-    /// a key that is not text; then the instances before that one stay in `result`.
+    /// a key that is not text; then the instances before that one stay in `result`. Throws std::length_error
+    /// for an answer with a text of 16 MiB or more.
     void FetchByKey(Instances& result, const std::string& keyProperty, const PropertySet& properties) const;
 };
 

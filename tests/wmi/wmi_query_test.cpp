@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
+#include <stdexcept>
 #include <string>
 #include <type_traits>
 #include <variant>
@@ -18,6 +19,8 @@ using Wmi::Instances;
 using Wmi::PropertySet;
 using Wmi::PropertyValue;
 using Wmi::WmiQuery;
+
+constexpr std::size_t kLongest = 16'777'216;
 
 WmiQuery MemoryQuery(const PropertySet& properties) {
     WmiQuery query;
@@ -319,6 +322,32 @@ TEST(WmiQuery, NothingIsFiledBehindAKeyThatIsNoText) {
     Instances result;
     EXPECT_THROW(MemoryQuery({"Tag"}).FetchByKey(result, "SerialNumber", {"Tag"}), json::type_error);
     EXPECT_TRUE(result.empty());
+}
+
+TEST(WmiQuery, ATextMayBeLong) {
+    const std::string text(kLongest - 10, 'x');
+    EXPECT_TRUE(Fetched(R"({"SerialNumber":"A","Capacity":")" + text + R"("})")["A"]["Capacity"] == text);
+}
+
+TEST(WmiQuery, AnAnswerMayBeLongerThanItsLongestText) {
+    std::string answer = "[";
+    while (answer.size() <= kLongest) {
+        answer += R"({"SerialNumber":"A","Capacity":1,"Other":[null,{}]},)";
+    }
+    EXPECT_EQ(Fetched(answer + R"({"SerialNumber":"A"}])"),
+              json::parse(R"({"A":{"SerialNumber":"A","Capacity":1}})"));
+}
+
+TEST(WmiQuery, AnEndlessTextIsRefused) {
+    EXPECT_EQ(TextOfFailure<std::length_error>(R"([{"SerialNumber":")" + std::string(kLongest, 'x')),
+              "a part of PowerShell's answer is too long");
+}
+
+TEST(WmiQuery, AnEndlessStretchWithoutTextIsRefused) {
+    for (const char character : {' ', '['}) {
+        EXPECT_EQ(TextOfFailure<std::length_error>(std::string(kLongest + 1, character)),
+                  "a part of PowerShell's answer is too long");
+    }
 }
 
 TEST(WmiQuery, InstancesBeforeAFailureStayInTheResult) {
