@@ -16,8 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMostLinks = 40;
-
 std::vector<std::uint8_t> ReadTable() {
     using namespace Platform;
     FirmwareTable& firmware = ActiveFirmwareTable();
@@ -36,17 +34,15 @@ std::runtime_error ExistsAlready(const std::string& name) {
     return std::runtime_error(name + " exists already; --force overwrites it");
 }
 
-/// What a link leads to, over further links, whether that exists or not. Any other path is that itself.
+/// What a link leads to, over further links, whether that exists or not. Any other path is that itself. The
+/// system is asked first: it may forbid to follow a link that somebody else left in a folder of everybody's.
 fs::path EndOfLinks(fs::path path, const std::string& name) {
     std::error_code error;
-    for (int links = 0; fs::is_symlink(fs::symlink_status(path, error)); ++links) {
+    if (fs::status(path, error).type() == fs::file_type::none) {
+        throw CannotWrite(name, error.message());
+    }
+    while (fs::is_symlink(fs::symlink_status(path, error))) {
         path = path.parent_path() / fs::read_symlink(path, error);
-        if (links == kMostLinks) {
-            error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
-        }
-        if (error) {
-            throw CannotWrite(name, error.message());
-        }
     }
     return path;
 }
