@@ -1,0 +1,21 @@
+# What `cpack` makes of a release build: three Debian packages on Linux, one archive on Windows.
+set(CPACK_PACKAGE_NAME "${PROJECT_NAME}")
+set(CPACK_PACKAGE_VENDOR "Vantor")
+set(CPACK_PACKAGE_CONTACT "The vantor-shared-smbios-v2 authors <maintainers@vantor.invalid>")
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
+set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_COMPONENTS_ALL development library tools)
+    set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+    set(CPACK_PACKAGE_FILE_NAME "${PROJECT_NAME}-${PROJECT_VERSION}-windows-x64")
+else()
+    set(CPACK_GENERATOR DEB)
+    include("${CMAKE_CURRENT_LIST_DIR}/debian/packages.cmake")
+endif()
+
+include(CPack)
