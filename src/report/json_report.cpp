@@ -4,6 +4,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/reports/memory_report.h"
 #include "smbios-inspect/reports/processors_report.h"
 #include "smbios-inspect/reports/structures_report.h"
@@ -29,10 +30,10 @@ const NamedReport& FindReport(std::string_view name) {
 }
 
 std::string JsonOf(const NamedReport& report) {
-    Inspect::Options options;
-    options.json = true;
+    Inspect::Request request;
+    request.json = true;
     std::ostringstream output;
-    report.print(options, Inspect::OutputStyle(), output);
+    report.print(request, Inspect::OutputStyle(), output);
     return output.str();
 }
 

@@ -4,15 +4,15 @@
 #include <string>
 #include <string_view>
 
-#include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/output/output_style.h"
+#include "smbios-inspect/reports/request.h"
 
 namespace SMBIOS::Report {
 
 /// One of the tool's reports and the name it goes by.
 struct NamedReport {
     std::string_view name;
-    void (*print)(const Inspect::Options& options, const Inspect::OutputStyle& style, std::ostream& output);
+    void (*print)(const Inspect::Request& request, const Inspect::OutputStyle& style, std::ostream& output);
 };
 
 /// The report of this name. Throws Inspect::UsageError when there is none.

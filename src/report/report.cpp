@@ -7,6 +7,7 @@
 #include "report/delivery.h"
 #include "report/json_report.h"
 #include "smbios-inspect/command_line/inspect.h"
+#include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/command_line/table_input.h"
 
 namespace {
