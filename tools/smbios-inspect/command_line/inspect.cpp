@@ -14,6 +14,7 @@
 #include "smbios-inspect/reports/structures_report.h"
 #include "smbios-inspect/reports/summary_report.h"
 #include "smbios-inspect/reports/table_end.h"
+#include "smbios-inspect/standard/firmware_report.h"
 
 namespace SMBIOS::Inspect {
 
@@ -32,6 +33,9 @@ void Report(const Options& options, const OutputStyle& style, std::ostream& outp
             break;
         case Command::structures:
             ReportStructures(options.report, style, output);
+            break;
+        case Command::firmware:
+            ReportFirmware(options.report, style, output);
             break;
         case Command::save:
             SaveTable(options.target, options.force);

@@ -13,6 +13,8 @@ struct CommandSyntax {
     Command command;
     bool takesJson = false;
     bool takesTypes = false;
+    bool takesHandles = false;
+    bool takesQuiet = false;
     bool takesTarget = false;
 };
 
@@ -21,6 +23,12 @@ constexpr CommandSyntax kCommands[] = {
     {.name = "memory", .command = Command::memory, .takesJson = true},
     {.name = "processors", .command = Command::processors, .takesJson = true},
     {.name = "structures", .command = Command::structures, .takesJson = true, .takesTypes = true},
+    {.name = "firmware",
+     .command = Command::firmware,
+     .takesJson = true,
+     .takesTypes = true,
+     .takesHandles = true,
+     .takesQuiet = true},
     {.name = "save", .command = Command::save, .takesTarget = true},
 };
 
@@ -40,6 +48,19 @@ std::uint8_t TypeNumberOf(std::string_view text) {
         throw UsageError("'" + std::string(text) + "' is no structure type: a number from 0 to 255");
     }
     return number;
+}
+
+/// Decimal, or hexadecimal behind 0x.
+std::uint16_t HandleOf(std::string_view text) {
+    const bool isHexadecimal = text.starts_with("0x") || text.starts_with("0X");
+    const std::string_view digits = text.substr(isHexadecimal ? 2 : 0);
+    std::uint16_t handle = 0;
+    const auto [end, error] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), handle, isHexadecimal ? 16 : 10);
+    if (error != std::errc() || end != digits.data() + digits.size()) {
+        throw UsageError("'" + std::string(text) + "' is no handle: a number from 0 to 0xFFFF");
+    }
+    return handle;
 }
 
 /// Goes through the arguments one by one.
@@ -90,6 +111,9 @@ bool ReadOption(ArgumentReader& reader, Options& options) {
     if (reader.Argument() == "--json") {
         RequireFirst(!options.report.json, "--json");
         options.report.json = true;
+    } else if (reader.Argument() == "--quiet") {
+        RequireFirst(!options.report.quiet, "--quiet");
+        options.report.quiet = true;
     } else if (reader.Argument() == "--force") {
         RequireFirst(!options.force, "--force");
         options.force = true;
@@ -98,6 +122,8 @@ bool ReadOption(ArgumentReader& reader, Options& options) {
         options.report.from = *file;
     } else if (const auto type = reader.ValueOf("--type")) {
         options.report.types.insert(TypeNumberOf(*type));
+    } else if (const auto handle = reader.ValueOf("--handle")) {
+        options.report.handles.insert(HandleOf(*handle));
     } else if (reader.Argument().starts_with("-") && reader.Argument() != "-") {
         throw UsageError("unknown option " + std::string(reader.Argument()));
     } else {
@@ -118,6 +144,8 @@ void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     options.command = syntax.command;
     RequireThat(syntax.takesJson || !options.report.json, syntax, "does not take --json");
     RequireThat(syntax.takesTypes || options.report.types.empty(), syntax, "does not take --type");
+    RequireThat(syntax.takesHandles || options.report.handles.empty(), syntax, "does not take --handle");
+    RequireThat(syntax.takesQuiet || !options.report.quiet, syntax, "does not take --quiet");
     RequireThat(syntax.takesTarget || !options.force, syntax, "does not take --force");
     const bool hasTarget = words.size() >= 2 && !words[1].empty();
     RequireThat(!syntax.takesTarget || hasTarget, syntax, "needs the file to write");
@@ -156,6 +184,8 @@ std::string_view UsageText() noexcept {
            "       smbios-inspect memory [--from FILE] [--json]\n"
            "       smbios-inspect processors [--from FILE] [--json]\n"
            "       smbios-inspect structures [--type N]... [--from FILE] [--json]\n"
+           "       smbios-inspect firmware [--type N]... [--handle H]... [--from FILE]\n"
+           "                               [--json] [--quiet]\n"
            "       smbios-inspect save FILE [--force] [--from FILE]\n"
            "       smbios-inspect --help | --version\n"
            "\n"
@@ -166,6 +196,7 @@ std::string_view UsageText() noexcept {
            "  memory        the memory devices\n"
            "  processors    the processors\n"
            "  structures    every structure of the table with all its fields\n"
+           "  firmware      every structure of the table as the SMBIOS standard has it\n"
            "  save          write the raw table to FILE\n"
            "\n"
            "options:\n"
@@ -175,6 +206,8 @@ std::string_view UsageText() noexcept {
            "                standard input\n"
            "  --json        print JSON\n"
            "  --type N      show only structures of type N; may be given several times\n"
+           "  --handle H    show only the structure with this handle; several times, too\n"
+           "  --quiet       print values only: no handles, bytes or remarks\n"
            "  --force       overwrite FILE\n"
            "  --help        print this text\n"
            "  --version     print the version\n"

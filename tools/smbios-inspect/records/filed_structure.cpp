@@ -2,15 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
-#include <vector>
 
-#include "manager/structure_type_names.h"
 #include "smbios-inspect/output/field_block.h"
 #include "smbios-inspect/records/record_writer.h"
+#include "smbios-inspect/records/structure_heading.h"
 #include "structures/decoded_types.h"
-#include "structures/formatted_area.h"
-#include "structures/hex_text.h"
 
 namespace SMBIOS::Inspect {
 
@@ -33,31 +29,6 @@ constexpr auto kWriters = WritersOf(Structures::AllDecoders());
 
 RecordWriter WriterFor(const FiledStructure& structure) {
     return std::ranges::lower_bound(kWriters, structure.first, {}, &WriterRow::key)->writer();
-}
-
-std::string_view NameOf(std::uint8_t type) {
-    constexpr std::uint8_t kInactive = 126;
-    constexpr std::uint8_t kEndOfTable = 127;
-    if (type > kEndOfTable) {
-        return "OEM-specific";
-    }
-    if (type >= kInactive) {
-        return type == kInactive ? "Inactive" : "End of Table";
-    }
-    return Manager::kStructureTypeNames[type];
-}
-
-/// "Type 17: Memory Device, handle 0x0050, 92 bytes". The handle is the one of the bytes: the record of a
-/// structure that was not accepted has none.
-std::string HeadingOf(std::uint8_t type, const std::vector<std::uint8_t>& rawBytes) {
-    constexpr std::size_t kHandleDigits = 4;
-    const std::string_view name = NameOf(type);
-    const std::uint16_t handle = Structures::FormattedArea(rawBytes).Handle();
-    std::string heading = "Type " + std::to_string(type);
-    heading.append(name.empty() ? "" : ": ").append(name);
-    heading += ", handle " + Structures::PaddedHexText(handle, kHandleDigits);
-    heading += ", " + std::to_string(rawBytes.size()) + " bytes";
-    return heading;
 }
 
 }  // namespace
@@ -89,7 +60,7 @@ Json StructureToJson(const FiledStructure& structure) {
 
 void PrintStructure(const FiledStructure& structure, const OutputStyle& style, std::ostream& output) {
     const RecordWriter writer = WriterFor(structure);
-    const std::string heading = HeadingOf(TypeOf(structure), writer.rawBytes(*structure.second));
+    const std::string heading = StructureHeading(TypeOf(structure), writer.rawBytes(*structure.second));
     PrintFieldBlock(heading, writer.texts(*structure.second), style, output);
 }
 

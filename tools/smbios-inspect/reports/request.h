@@ -11,7 +11,9 @@ namespace SMBIOS::Inspect {
 struct Request {
     std::optional<std::string> from = std::nullopt;  ///< the saved table in place of the machine's
     bool json = false;
-    std::set<std::uint8_t> types = {};  ///< of the structures to show; empty for all
+    std::set<std::uint8_t> types = {};     ///< of the structures to show; empty for all
+    std::set<std::uint16_t> handles = {};  ///< likewise
+    bool quiet = false;                    ///< the values alone
 };
 
 }  // namespace SMBIOS::Inspect

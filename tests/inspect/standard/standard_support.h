@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "samples/table_builder.h"
+#include "smbios-inspect/standard/firmware_json.h"
+#include "smbios-inspect/standard/firmware_text.h"
+#include "smbios-inspect/standard/structure.h"
+
+namespace SMBIOS::Tests {
+
+using Samples::StructureBuilder;
+using Samples::TableBuilder;
+
+/// The text of every structure of a raw table.
+inline std::string FirmwareText(const std::vector<std::uint8_t>& rawTable, bool isQuiet = false) {
+    std::ostringstream output;
+    Inspect::Standard::TableWalk walk(rawTable);
+    while (const auto structure = walk.Next()) {
+        Inspect::Standard::PrintStructure(*structure, isQuiet, {}, output);
+    }
+    return output.str();
+}
+
+/// The JSON of every structure of a raw table.
+inline Inspect::Json FirmwareJson(const std::vector<std::uint8_t>& rawTable, bool isQuiet = false) {
+    Inspect::Json list = Inspect::Json::array();
+    Inspect::Standard::TableWalk walk(rawTable);
+    while (const auto structure = walk.Next()) {
+        list.push_back(Inspect::Standard::StructureToJson(*structure, isQuiet));
+    }
+    return list;
+}
+
+/// A table of version 3.8 with this structure alone.
+inline std::vector<std::uint8_t> TableOf(const StructureBuilder& structure) {
+    return TableBuilder(3, 8, 0).Add(structure).RawTable();
+}
+
+}  // namespace SMBIOS::Tests

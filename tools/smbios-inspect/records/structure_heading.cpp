@@ -1,0 +1,32 @@
+#include "smbios-inspect/records/structure_heading.h"
+
+#include "manager/structure_type_names.h"
+#include "structures/formatted_area.h"
+#include "structures/hex_text.h"
+
+namespace SMBIOS::Inspect {
+
+std::string_view StructureName(std::uint8_t type) {
+    constexpr std::uint8_t kInactive = 126;
+    constexpr std::uint8_t kEndOfTable = 127;
+    if (type > kEndOfTable) {
+        return "OEM-specific";
+    }
+    if (type >= kInactive) {
+        return type == kInactive ? "Inactive" : "End of Table";
+    }
+    return Manager::kStructureTypeNames[type];
+}
+
+std::string StructureHeading(std::uint8_t type, std::span<const std::uint8_t> rawBytes) {
+    constexpr std::size_t kHandleDigits = 4;
+    const std::string_view name = StructureName(type);
+    const std::uint16_t handle = Structures::FormattedArea(rawBytes).Handle();
+    std::string heading = "Type " + std::to_string(type);
+    heading.append(name.empty() ? "" : ": ").append(name);
+    heading += ", handle " + Structures::PaddedHexText(handle, kHandleDigits);
+    heading += ", " + std::to_string(rawBytes.size()) + " bytes";
+    return heading;
+}
+
+}  // namespace SMBIOS::Inspect

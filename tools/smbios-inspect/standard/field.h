@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "smbios-inspect/standard/value.h"
+
+namespace SMBIOS::Inspect::Standard {
+
+/// Where a field stands that is part of something a structure holds several of.
+struct GroupPlace {
+    std::string_view group = {};    ///< name of the list the fields' object is an element of; empty for none
+    std::size_t index = 0;          ///< of that object in the list
+    std::string_view heading = {};  ///< for people, above the object; empty for none
+};
+
+/// A decoded field. Valid only while it is visited.
+struct Field {
+    std::string_view name;  ///< in programs
+    std::string_view
+        label;  ///< for people, # for the object's number; empty when another field tells the same
+    GroupPlace place;
+    const Value& value;
+};
+
+/// A label or a heading with the object's number, from 1, in place of #.
+[[nodiscard]] inline std::string Numbered(std::string_view label, std::size_t index) {
+    std::string text(label);
+    if (const std::size_t mark = text.find('#'); mark != std::string::npos) {
+        text.replace(mark, 1, std::to_string(index + 1));
+    }
+    return text;
+}
+
+/// Is handed the fields of a structure, in order. Fields of one object of a group come one behind the other.
+class FieldVisitor {
+public:
+    FieldVisitor() = default;
+    FieldVisitor(const FieldVisitor&) = delete;
+    FieldVisitor& operator=(const FieldVisitor&) = delete;
+    virtual ~FieldVisitor() = default;
+
+    virtual void Visit(const Field& field) = 0;
+};
+
+}  // namespace SMBIOS::Inspect::Standard

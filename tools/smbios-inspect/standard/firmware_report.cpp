@@ -1,0 +1,67 @@
+#include "smbios-inspect/standard/firmware_report.h"
+
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "manager/raw_table.h"
+#include "smbios-inspect/output/json.h"
+#include "smbios-inspect/standard/firmware_json.h"
+#include "smbios-inspect/standard/firmware_text.h"
+#include "smbios-inspect/standard/structure.h"
+
+namespace SMBIOS::Inspect {
+
+using Standard::Structure;
+using Standard::TableWalk;
+
+namespace {
+
+bool IsAskedFor(const Structure& structure, const Request& request) {
+    return (request.types.empty() || request.types.contains(structure.Type())) &&
+           (request.handles.empty() || request.handles.contains(structure.Handle())) &&
+           (!request.quiet || Standard::HasValues(structure));
+}
+
+std::string VersionText(Standard::TableVersion version) {
+    return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
+           std::to_string(version.revision);
+}
+
+void PrintAsJson(TableWalk walk, const Request& request, std::ostream& output) {
+    Json list = Json::array();
+    while (const auto structure = walk.Next()) {
+        if (IsAskedFor(*structure, request)) {
+            list.push_back(Standard::StructureToJson(*structure, request.quiet));
+        }
+    }
+    PrintJson({{"version", VersionText(walk.Version())}, {"structures", std::move(list)}}, output);
+}
+
+void PrintAsText(TableWalk walk, const Request& request, const OutputStyle& style, std::ostream& output) {
+    bool isFirst = true;
+    while (const auto structure = walk.Next()) {
+        if (IsAskedFor(*structure, request)) {
+            output << (isFirst ? "" : "\n");
+            Standard::PrintStructure(*structure, request.quiet, style, output);
+            isFirst = false;
+        }
+    }
+    if (isFirst) {
+        const bool isSelection = request.quiet || !request.types.empty() || !request.handles.empty();
+        output << "The table holds no " << (isSelection ? "such " : "") << "structure.\n";
+    }
+}
+
+}  // namespace
+
+void ReportFirmware(const Request& request, const OutputStyle& style, std::ostream& output) {
+    const std::vector<std::uint8_t> rawTable = Manager::ReadRawTable();
+    if (request.json) {
+        PrintAsJson(TableWalk(rawTable), request, output);
+    } else {
+        PrintAsText(TableWalk(rawTable), request, style, output);
+    }
+}
+
+}  // namespace SMBIOS::Inspect

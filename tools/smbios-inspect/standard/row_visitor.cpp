@@ -1,0 +1,31 @@
+#include "smbios-inspect/standard/row_visitor.h"
+
+namespace SMBIOS::Inspect::Standard {
+
+namespace {
+
+GroupPlace PlaceOf(const GroupTable& group, std::size_t index) noexcept {
+    return {group.group, index, group.heading};
+}
+
+}  // namespace
+
+void RowVisitor::VisitRows(std::span<const FieldRow> rows, std::size_t base, const GroupPlace& place) {
+    for (const FieldRow& row : rows) {
+        if (base + row.offset + row.width <= area_.Size()) {
+            const Value value = row.form.read({structure_, row, base});
+            visitor_.Visit({row.name, row.label, place, value});
+        }
+    }
+}
+
+void RowVisitor::VisitObject(const GroupTable& group, std::size_t index, std::size_t base) {
+    VisitRows(group.rows, base, PlaceOf(group, index));
+}
+
+void RowVisitor::VisitValue(const GroupTable& group, std::size_t index, const Value& value) {
+    const FieldRow& row = group.rows.front();
+    visitor_.Visit({row.name, row.label, PlaceOf(group, index), value});
+}
+
+}  // namespace SMBIOS::Inspect::Standard
