@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "smbios-inspect/output/units.h"
-#include "smbios-inspect/records/structure_heading.h"
+#include "smbios-inspect/standard/words_types.h"
 #include "structures/hex_text.h"
 
 namespace SMBIOS::Inspect::Standard {
@@ -15,6 +15,7 @@ namespace SMBIOS::Inspect::Standard {
 namespace {
 
 constexpr std::uint64_t kFirstOemCode = 0x80;
+constexpr std::uint64_t kUnknownWord = 0x8000;
 
 /// The words a number stands for, as a value without that number.
 std::optional<Value> InsteadOf(std::uint64_t number, WordList words) {
@@ -48,17 +49,28 @@ Value ReadNumber(const Reading& reading) {
     return value;
 }
 
+Value ReadFraction(const Reading& reading) {
+    const std::uint64_t number = reading.Raw();
+    const Form& form = reading.row.form;
+    Value value = Nothing(kUnknown);
+    if (number != kUnknownWord) {
+        const std::string text = DecimalText(static_cast<std::int64_t>(number), form.digits);
+        value = Number(number, text + std::string(form.mark));
+    }
+    value.unit = form.unit;
+    return value;
+}
+
 Value ReadSigned(const Reading& reading) {
-    constexpr std::uint64_t kNone = 0x8000;
     const std::uint64_t raw = reading.Raw();
     const Form& form = reading.row.form;
-    if (raw == kNone) {
-        Value unknown = Nothing(kUnknown);
-        unknown.unit = form.unit;
-        return unknown;
+    Value value = Nothing(kUnknown);
+    if (raw != kUnknownWord) {
+        const auto number = static_cast<std::int16_t>(raw);
+        value = SignedNumber(number, DecimalText(number, form.digits) + std::string(form.mark));
     }
-    const auto number = static_cast<std::int16_t>(raw);
-    return SignedNumber(number, DecimalText(number, form.digits) + std::string(form.mark), form.unit);
+    value.unit = form.unit;
+    return value;
 }
 
 Value ReadHex(const Reading& reading) {
@@ -140,7 +152,8 @@ Value ReadHandleList(const Reading& reading) {
 
 Value ReadByteSize(const Reading& reading) {
     const std::uint64_t bytes = reading.Raw();
-    Value value = InsteadOf(bytes, reading.row.form.words).value_or(SizeInBytes(bytes));
+    Value value = bytes == 0 ? Words(bytes, "None")
+                             : InsteadOf(bytes, reading.row.form.words).value_or(SizeInBytes(bytes));
     value.unit = "byte";
     return value;
 }
@@ -179,8 +192,7 @@ std::string WordsFor(WordList words, std::uint64_t code) {
 }
 
 std::string TypeWords(std::uint8_t type) {
-    const std::string_view name = StructureName(type);
-    return std::string(name.empty() ? kOutOfSpec : name);
+    return type < kFirstOemCode ? WordsFor(kTypeWords.Rows(), type) : "OEM-specific";
 }
 
 std::vector<Item> NamesOfBits(WordList names, std::uint64_t bits) {

@@ -22,6 +22,7 @@ inline constexpr auto kNotProvidedIfWordFull = WordsOf({{0xFFFF, "Not Provided"}
 
 [[nodiscard]] Value ReadString(const Reading& reading);
 [[nodiscard]] Value ReadNumber(const Reading& reading);
+[[nodiscard]] Value ReadFraction(const Reading& reading);
 [[nodiscard]] Value ReadSigned(const Reading& reading);
 [[nodiscard]] Value ReadHex(const Reading& reading);
 [[nodiscard]] Value ReadHandle(const Reading& reading);
@@ -54,8 +55,12 @@ inline constexpr auto kNotProvidedIfWordFull = WordsOf({{0xFFFF, "Not Provided"}
     return {.read = ReadNumber, .words = words, .unit = unit, .mark = mark};
 }
 
-/// A signed word in a fraction of a unit: people read it with so many digits behind the point; 0x8000 is
-/// unknown.
+/// A word in a fraction of a unit: people read it with so many digits behind the point; 0x8000 is unknown.
+[[nodiscard]] constexpr Form Fraction(std::string_view unit, std::string_view mark, unsigned digits) {
+    return {.read = ReadFraction, .unit = unit, .mark = mark, .digits = digits};
+}
+
+/// The same with a sign.
 [[nodiscard]] constexpr Form Signed(std::string_view unit, std::string_view mark, unsigned digits) {
     return {.read = ReadSigned, .unit = unit, .mark = mark, .digits = digits};
 }
@@ -107,7 +112,7 @@ inline constexpr auto kNotProvidedIfWordFull = WordsOf({{0xFFFF, "Not Provided"}
     return {.read = ReadHandleList};
 }
 
-/// A number of bytes.
+/// A number of bytes; none is "None".
 [[nodiscard]] constexpr Form ByteSize(WordList words = {}) {
     return {.read = ReadByteSize, .words = words};
 }
@@ -130,7 +135,7 @@ inline constexpr auto kNotProvidedIfWordFull = WordsOf({{0xFFFF, "Not Provided"}
 /// The code's words; "<OUT OF SPEC>" when the standard has none.
 [[nodiscard]] std::string WordsFor(WordList words, std::uint64_t code);
 
-/// The name of a structure type; "<OUT OF SPEC>" when the standard has none.
+/// What a structure of this type is called by another one.
 [[nodiscard]] std::string TypeWords(std::uint8_t type);
 
 /// The names of the bits set, in ascending order.

@@ -15,6 +15,17 @@ namespace {
 constexpr std::uint8_t kNetwork = 0x40;
 constexpr std::size_t kData = 0x06;
 
+/// Everything up to the network's number belongs to the MCTP's own list.
+Value ReadHostInterface(const Reading& reading) {
+    constexpr std::uint64_t kOem = 0xF0;
+    const std::uint64_t type = reading.Raw();
+    const auto words = Common::FindText(kHostInterfaces.Rows(), type);
+    if (type == kOem) {
+        return Words(type, "OEM");
+    }
+    return Words(type, std::string(words.value_or(type < kNetwork ? "MCTP" : kOutOfSpec)));
+}
+
 Value ReadHostDevice(const Reading& reading) {
     const std::uint64_t type = reading.Raw();
     return Words(type, type >= 0x80 ? "OEM" : WordsFor(kHostDevices.Rows(), type));
@@ -29,7 +40,7 @@ Value ReadMacAddress(const Reading& reading) {
 }
 
 constexpr FieldRow kHostInterfaceRows[] = {
-    {0x04, kByte, "interfaceType", "Host Interface Type", Code(kHostInterfaces.Rows())},
+    {0x04, kByte, "interfaceType", "Host Interface Type", By(ReadHostInterface)},
     {0x05, kByte, "interfaceTypeSpecificDataLength", "", Measure("byte", " bytes")},
 };
 

@@ -59,7 +59,7 @@ Value ReadBaseAddress(const Reading& reading) {
     const Structures::FormattedArea area = reading.structure.Area();
     const std::uint64_t address = reading.Raw();
     if (area.Byte(0x04) == kSmbusInterface) {
-        return Number(address, HexText(address >> 1, 2) + " (SMBus)");
+        return Number(address, HexText((address & 0xFF) >> 1, 2) + " (SMBus)");
     }
     const std::uint64_t lowestBit = area.Byte(0x10) >> 4 & 0x01U;
     return Number(address,

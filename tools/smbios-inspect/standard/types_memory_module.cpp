@@ -18,15 +18,15 @@ Value MebibytesValue(std::uint64_t mebibytes) {
     return Number(mebibytes << 20, std::to_string(mebibytes) + " MiB", "byte");
 }
 
-/// Everything from 2^31 on is no size of a module.
+/// More than 2^43 MiB is no size: it cannot be told in bytes.
 Value ReadMaximumModuleSize(const Reading& reading) {
-    constexpr std::uint64_t kMost = 30;
+    constexpr std::uint64_t kMost = 43;
     const std::uint64_t power = reading.Raw();
     return power > kMost ? Words(power, std::string(kOutOfSpec)) : MebibytesValue(std::uint64_t{1} << power);
 }
 
 Value ReadMaximumTotalSize(const Reading& reading) {
-    constexpr std::uint64_t kMost = 30;
+    constexpr std::uint64_t kMost = 35;
     const std::uint64_t power = reading.structure.Area().Byte(0x08);
     const std::uint64_t slots = reading.Raw();
     return power > kMost ? Nothing(kOutOfSpec) : MebibytesValue(slots << power);
@@ -97,7 +97,7 @@ Value ReadModuleSize(const Reading& reading) {
     constexpr std::uint64_t kNotDeterminable = 0x7D;
     constexpr std::uint64_t kDisabled = 0x7E;
     constexpr std::uint64_t kNotInstalled = 0x7F;
-    constexpr std::uint64_t kMost = 30;
+    constexpr std::uint64_t kMost = 43;
     const std::uint64_t size = reading.Raw();
     const std::uint64_t power = size & 0x7F;
     if (power == kNotInstalled) {

@@ -44,8 +44,8 @@ struct Value {
     return {.plain = number, .unit = unit, .text = std::move(text)};
 }
 
-[[nodiscard]] inline Value SignedNumber(std::int64_t number, std::string text, std::string_view unit) {
-    return {.plain = number, .unit = unit, .text = std::move(text)};
+[[nodiscard]] inline Value SignedNumber(std::int64_t number, std::string text) {
+    return {.plain = number, .text = std::move(text)};
 }
 
 /// A code, and what it means.

@@ -62,7 +62,6 @@ inline constexpr auto kHostInterfaces = WordsOf({
     {0x07, "16750/16750A UART Register Compatible"},
     {0x08, "16850/16850A UART Register Compatible"},
     {0x40, "Network"},
-    {0xF0, "OEM"},
 });
 
 inline constexpr auto kHostDevices = WordsOf({

@@ -261,9 +261,7 @@ inline constexpr auto kUnknownAddress64 = WordsOf({
     {0x8000000000000000, "Unknown"},
 });
 
-/// Words for some sizes of a part of a device.
 inline constexpr auto kPortionSizes = WordsOf({
-    {0x0000000000000000, "None"},
     {0xFFFFFFFFFFFFFFFF, "Unknown"},
 });
 

@@ -160,7 +160,7 @@ inline constexpr auto kProcessorCharacteristics = WordsOf({
     {5, "Execute Protection"},
     {6, "Enhanced Virtualization"},
     {7, "Power/Performance Control"},
-    {8, "128-bit capable"},
+    {8, "128-bit Capable"},
     {9, "Arm64 SoC ID"},
 });
 

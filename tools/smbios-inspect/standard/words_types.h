@@ -1,0 +1,60 @@
+#pragma once
+
+#include "smbios-inspect/standard/words.h"
+
+namespace SMBIOS::Inspect::Standard {
+
+/// How structure types are called where another structure names them.
+inline constexpr auto kTypeWords = WordsOf({
+    {0, "BIOS"},
+    {1, "System"},
+    {2, "Base Board"},
+    {3, "Chassis"},
+    {4, "Processor"},
+    {5, "Memory Controller"},
+    {6, "Memory Module"},
+    {7, "Cache"},
+    {8, "Port Connector"},
+    {9, "System Slots"},
+    {10, "On Board Devices"},
+    {11, "OEM Strings"},
+    {12, "System Configuration Options"},
+    {13, "BIOS Language"},
+    {14, "Group Associations"},
+    {15, "System Event Log"},
+    {16, "Physical Memory Array"},
+    {17, "Memory Device"},
+    {18, "32-bit Memory Error"},
+    {19, "Memory Array Mapped Address"},
+    {20, "Memory Device Mapped Address"},
+    {21, "Built-in Pointing Device"},
+    {22, "Portable Battery"},
+    {23, "System Reset"},
+    {24, "Hardware Security"},
+    {25, "System Power Controls"},
+    {26, "Voltage Probe"},
+    {27, "Cooling Device"},
+    {28, "Temperature Probe"},
+    {29, "Electrical Current Probe"},
+    {30, "Out-of-band Remote Access"},
+    {31, "Boot Integrity Services"},
+    {32, "System Boot"},
+    {33, "64-bit Memory Error"},
+    {34, "Management Device"},
+    {35, "Management Device Component"},
+    {36, "Management Device Threshold Data"},
+    {37, "Memory Channel"},
+    {38, "IPMI Device"},
+    {39, "Power Supply"},
+    {40, "Additional Information"},
+    {41, "Onboard Device"},
+    {42, "Management Controller Host Interface"},
+    {43, "TPM Device"},
+    {44, "Processor"},
+    {45, "Firmware"},
+    {46, "String Property"},
+    {47, "Redfish Host Interface"},
+    {48, "Redfish Service Information"},
+});
+
+}  // namespace SMBIOS::Inspect::Standard
