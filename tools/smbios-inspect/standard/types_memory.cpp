@@ -101,7 +101,7 @@ Value ReadDeviceRevision(const Reading& reading) {
     if (revision == kUnknownRevision) {
         return Nothing(kUnknown);
     }
-    return Number(revision, std::to_string(revision >> 4 & 0x0F) + "." + std::to_string(revision & 0x0F));
+    return Words(revision, std::to_string(revision >> 4 & 0x0F) + "." + std::to_string(revision & 0x0F));
 }
 
 constexpr WordList kZero = kUnknownIfZero.Rows();

@@ -162,6 +162,7 @@ constexpr FieldRow kPowerSupplyRows[] = {
     {0x0B, kByte, "revisionLevel", "Revision", String()},
     {0x0C, kWord, "maxPowerCapacity", "Max Power Capacity", Measure("W", " W", kUnknownIfHighBit.Rows())},
     {0x0E, kWord, "status", "Status", By(ReadSupplyStatus)},
+    {0x0E, kWord, "present", "", CodeIn(1, 1, kYesNo.Rows())},
     {0x0E, kWord, "type", "Type", CodeIn(10, 4, kSupplyTypes.Rows())},
     {0x0E,
      kWord,
