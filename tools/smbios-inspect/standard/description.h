@@ -22,6 +22,7 @@ struct Reading;
 /// How the bytes of a field become a value.
 struct Form {
     Value (*read)(const Reading&);
+    ValueKind kind;
     WordList words = {};
     std::string_view unit = {};  ///< in programs, "bit"
     std::string_view mark = {};  ///< behind the number for people, " bits"

@@ -20,6 +20,8 @@ struct Field {
     std::string_view name;  ///< in programs
     std::string_view
         label;  ///< for people, # for the object's number; empty when another field tells the same
+    ValueKind kind;
+    std::string_view unit;  ///< of a number, for programs; empty for none
     GroupPlace place;
     const Value& value;
 };

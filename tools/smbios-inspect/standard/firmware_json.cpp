@@ -29,10 +29,11 @@ Json ItemToJson(const Item& item) {
     return PlainToJson(item.plain);
 }
 
-Json ValueToJson(const Value& value) {
+Json FieldToJson(const Field& field) {
+    const Value& value = field.value;
     Json json = {{"value", PlainToJson(value.plain)}};
-    if (!value.unit.empty()) {
-        json["unit"] = value.unit;
+    if (!field.unit.empty()) {
+        json["unit"] = field.unit;
     }
     if (value.hasWords) {
         json["text"] = value.text;
@@ -51,7 +52,7 @@ Json ValueToJson(const Value& value) {
 class JsonVisitor final : public FieldVisitor {
 public:
     void Visit(const Field& field) override {
-        ObjectOf(field.place)[std::string(field.name)] = ValueToJson(field.value);
+        ObjectOf(field.place)[std::string(field.name)] = FieldToJson(field);
     }
 
     [[nodiscard]] Json Take() { return std::move(fields_); }

@@ -12,6 +12,10 @@ namespace SMBIOS::Inspect::Standard {
 
 namespace {
 
+bool IsReference(ValueKind kind) noexcept {
+    return kind == ValueKind::handle || kind == ValueKind::handleList;
+}
+
 /// "\tLabel: value", and the items of a list below it. Lines are not wrapped: scripts read them, too.
 class TextVisitor final : public FieldVisitor {
 public:
@@ -19,11 +23,14 @@ public:
 
     void Visit(const Field& field) override {
         PrintGroupHeading(field.place);
-        if (field.label.empty() || (isQuiet_ && field.value.isHandle)) {
+        if (field.label.empty() || (isQuiet_ && IsReference(field.kind))) {
             return;
         }
         output_ << '\t' << Numbered(field.label, field.place.index) << ':'
                 << (field.value.text.empty() ? "" : " ") << Printable(field.value.text) << '\n';
+        if (field.value.isInLine) {
+            return;
+        }
         for (const Item& item : field.value.items) {
             output_ << "\t\t" << Printable(item.text) << '\n';
         }

@@ -45,7 +45,6 @@ Value ReadNumber(const Reading& reading) {
     const Form& form = reading.row.form;
     Value value = InsteadOf(number, form.words)
                       .value_or(Number(number, std::to_string(number) + std::string(form.mark)));
-    value.unit = form.unit;
     return value;
 }
 
@@ -57,7 +56,6 @@ Value ReadFraction(const Reading& reading) {
         const std::string text = DecimalText(static_cast<std::int64_t>(number), form.digits);
         value = Number(number, text + std::string(form.mark));
     }
-    value.unit = form.unit;
     return value;
 }
 
@@ -69,7 +67,6 @@ Value ReadSigned(const Reading& reading) {
         const auto number = static_cast<std::int16_t>(raw);
         value = SignedNumber(number, DecimalText(number, form.digits) + std::string(form.mark));
     }
-    value.unit = form.unit;
     return value;
 }
 
@@ -80,9 +77,7 @@ Value ReadHex(const Reading& reading) {
 }
 
 Value ReadHandle(const Reading& reading) {
-    Value handle = ReadHex(reading);
-    handle.isHandle = true;
-    return handle;
+    return ReadHex(reading);
 }
 
 Value ReadCode(const Reading& reading) {
@@ -104,12 +99,12 @@ Value ReadFlags(const Reading& reading) {
 }
 
 Value ReadFlagsInLine(const Reading& reading) {
-    const std::uint64_t bits = reading.Raw();
-    Value value = Words(bits, InOneLine(NamesOfBits(reading.row.form.words, bits)));
-    if (value.text.empty()) {
-        value.text = "None";
+    Value flags = ReadFlags(reading);
+    flags.isInLine = true;
+    if (!flags.items.empty()) {
+        flags.text = InOneLine(flags.items);
     }
-    return value;
+    return flags;
 }
 
 /// The first three parts are little-endian since version 2.6 of the standard; they were read big-endian
@@ -143,18 +138,15 @@ Value ReadBytes(const Reading& reading) {
 
 Value ReadHandleList(const Reading& reading) {
     const std::uint64_t count = reading.Raw();
-    Value list = List(count,
-                      std::to_string(count),
-                      HandlesAt(reading.structure, reading.Offset() + reading.row.width, count));
-    list.isHandle = true;
-    return list;
+    return List(count,
+                std::to_string(count),
+                HandlesAt(reading.structure, reading.Offset() + reading.row.width, count));
 }
 
 Value ReadByteSize(const Reading& reading) {
     const std::uint64_t bytes = reading.Raw();
     Value value = bytes == 0 ? Words(bytes, "None")
                              : InsteadOf(bytes, reading.row.form.words).value_or(SizeInBytes(bytes));
-    value.unit = "byte";
     return value;
 }
 
@@ -227,11 +219,11 @@ std::string KibibytesText(std::uint64_t kibibytes) {
 Value SizeInBytes(std::uint64_t bytes) {
     std::string text =
         bytes % 1024 == 0 && bytes != 0 ? KibibytesText(bytes / 1024) : std::to_string(bytes) + " bytes";
-    return Number(bytes, std::move(text), "byte");
+    return Number(bytes, std::move(text));
 }
 
 Value SizeInKibibytes(std::uint64_t kibibytes) {
-    return Number(kibibytes * 1024, KibibytesText(kibibytes), "byte");
+    return Number(kibibytes * 1024, KibibytesText(kibibytes));
 }
 
 std::string BytesText(std::span<const std::uint8_t> bytes) {

@@ -37,94 +37,113 @@ inline constexpr auto kNotProvidedIfWordFull = WordsOf({{0xFFFF, "Not Provided"}
 [[nodiscard]] Value ReadRelease(const Reading& reading);
 [[nodiscard]] Value ReadBusAddress(const Reading& reading);
 
-/// What only one type has.
-[[nodiscard]] constexpr Form By(Value (*read)(const Reading&), WordList words = {}) {
-    return {.read = read, .words = words};
+// What only one type has: a value of each kind by a reading function.
+[[nodiscard]] constexpr Form TextBy(Value (*read)(const Reading&)) {
+    return {.read = read, .kind = ValueKind::text};
+}
+[[nodiscard]] constexpr Form NumberBy(Value (*read)(const Reading&), std::string_view unit = {}) {
+    return {.read = read, .kind = ValueKind::number, .unit = unit};
+}
+[[nodiscard]] constexpr Form CodeBy(Value (*read)(const Reading&)) {
+    return {.read = read, .kind = ValueKind::code};
+}
+[[nodiscard]] constexpr Form FlagsBy(Value (*read)(const Reading&)) {
+    return {.read = read, .kind = ValueKind::flags};
+}
+[[nodiscard]] constexpr Form HandleBy(Value (*read)(const Reading&), WordList words) {
+    return {.read = read, .kind = ValueKind::handle, .words = words};
+}
+[[nodiscard]] constexpr Form ListBy(Value (*read)(const Reading&)) {
+    return {.read = read, .kind = ValueKind::list};
+}
+[[nodiscard]] constexpr Form HandleListBy(Value (*read)(const Reading&)) {
+    return {.read = read, .kind = ValueKind::handleList};
 }
 
 /// The number of a string.
 [[nodiscard]] constexpr Form String() {
-    return {.read = ReadString};
+    return {.read = ReadString, .kind = ValueKind::text};
 }
 
 /// A number, its unit in programs and for people; some numbers stand for words.
 [[nodiscard]] constexpr Form Count(WordList words = {}) {
-    return {.read = ReadNumber, .words = words};
+    return {.read = ReadNumber, .kind = ValueKind::number, .words = words};
 }
 [[nodiscard]] constexpr Form Measure(std::string_view unit, std::string_view mark, WordList words = {}) {
-    return {.read = ReadNumber, .words = words, .unit = unit, .mark = mark};
+    return {.read = ReadNumber, .kind = ValueKind::number, .words = words, .unit = unit, .mark = mark};
 }
 
 /// A word in a fraction of a unit: people read it with so many digits behind the point; 0x8000 is unknown.
 [[nodiscard]] constexpr Form Fraction(std::string_view unit, std::string_view mark, unsigned digits) {
-    return {.read = ReadFraction, .unit = unit, .mark = mark, .digits = digits};
+    return {.read = ReadFraction, .kind = ValueKind::number, .unit = unit, .mark = mark, .digits = digits};
 }
 
 /// The same with a sign.
 [[nodiscard]] constexpr Form Signed(std::string_view unit, std::string_view mark, unsigned digits) {
-    return {.read = ReadSigned, .unit = unit, .mark = mark, .digits = digits};
+    return {.read = ReadSigned, .kind = ValueKind::number, .unit = unit, .mark = mark, .digits = digits};
 }
 
 /// "0x00000000", with the digits its width has.
 [[nodiscard]] constexpr Form Hex(WordList words = {}) {
-    return {.read = ReadHex, .words = words};
+    return {.read = ReadHex, .kind = ValueKind::number, .words = words};
 }
 
 /// The handle of another structure, "0x0011".
 [[nodiscard]] constexpr Form Handle(WordList words = {}) {
-    return {.read = ReadHandle, .words = words};
+    return {.read = ReadHandle, .kind = ValueKind::handle, .words = words};
 }
 
 /// A code in words.
 [[nodiscard]] constexpr Form Code(WordList words) {
-    return {.read = ReadCode, .words = words};
+    return {.read = ReadCode, .kind = ValueKind::code, .words = words};
 }
 
 /// The same for a code that is an OEM's from 0x80 on.
 [[nodiscard]] constexpr Form CodeOrOem(WordList words) {
-    return {.read = ReadCodeOrOem, .words = words};
+    return {.read = ReadCodeOrOem, .kind = ValueKind::code, .words = words};
 }
 
 /// A code in some bits of the field.
 [[nodiscard]] constexpr Form CodeIn(unsigned lowBit, unsigned bitCount, WordList words) {
-    return {.read = ReadCode, .words = words, .lowBit = lowBit, .bitCount = bitCount};
+    return {
+        .read = ReadCode, .kind = ValueKind::code, .words = words, .lowBit = lowBit, .bitCount = bitCount};
 }
 
 /// Names of the bits that are set, one below the other or in one line.
 [[nodiscard]] constexpr Form Flags(WordList names) {
-    return {.read = ReadFlags, .words = names};
+    return {.read = ReadFlags, .kind = ValueKind::flags, .words = names};
 }
 [[nodiscard]] constexpr Form FlagsInLine(WordList names) {
-    return {.read = ReadFlagsInLine, .words = names};
+    return {.read = ReadFlagsInLine, .kind = ValueKind::flags, .words = names};
 }
 
 [[nodiscard]] constexpr Form Uuid() {
-    return {.read = ReadUuid};
+    return {.read = ReadUuid, .kind = ValueKind::text};
 }
 
 /// "2C 09 25": bytes that have no meaning of their own.
 [[nodiscard]] constexpr Form RawBytes() {
-    return {.read = ReadBytes};
+    return {.read = ReadBytes, .kind = ValueKind::text};
 }
 
 /// A byte or word that counts the handles behind it.
 [[nodiscard]] constexpr Form HandleList() {
-    return {.read = ReadHandleList};
+    return {.read = ReadHandleList, .kind = ValueKind::handleList};
 }
 
 /// A number of bytes; none is "None".
 [[nodiscard]] constexpr Form ByteSize(WordList words = {}) {
-    return {.read = ReadByteSize, .words = words};
+    return {.read = ReadByteSize, .kind = ValueKind::number, .words = words, .unit = "byte"};
 }
 
 /// Major and minor release, a byte each: "5.26".
 [[nodiscard]] constexpr Form Release() {
-    return {.read = ReadRelease};
+    return {.read = ReadRelease, .kind = ValueKind::text};
 }
 
 /// Segment group, bus, device and function: "0000:00:02.0".
 [[nodiscard]] constexpr Form BusAddress() {
-    return {.read = ReadBusAddress};
+    return {.read = ReadBusAddress, .kind = ValueKind::text};
 }
 
 // What the reading functions of the types are made of.

@@ -14,7 +14,7 @@ void RowVisitor::VisitRows(std::span<const FieldRow> rows, std::size_t base, con
     for (const FieldRow& row : rows) {
         if (base + row.offset + row.width <= area_.Size()) {
             const Value value = row.form.read({structure_, row, base});
-            visitor_.Visit({row.name, row.label, place, value});
+            visitor_.Visit({row.name, row.label, row.form.kind, row.form.unit, place, value});
         }
     }
 }
@@ -25,7 +25,7 @@ void RowVisitor::VisitObject(const GroupTable& group, std::size_t index, std::si
 
 void RowVisitor::VisitValue(const GroupTable& group, std::size_t index, const Value& value) {
     const FieldRow& row = group.rows.front();
-    visitor_.Visit({row.name, row.label, PlaceOf(group, index), value});
+    visitor_.Visit({row.name, row.label, row.form.kind, row.form.unit, PlaceOf(group, index), value});
 }
 
 }  // namespace SMBIOS::Inspect::Standard

@@ -74,7 +74,7 @@ constexpr FieldRow kChassisRows[] = {
     {0x0D, kDword, "oemDefined", "OEM Information", Hex()},
     {0x11, kByte, "height", "Height", Measure("U", " U", kUnspecifiedIfZero.Rows())},
     {0x12, kByte, "numberOfPowerCords", "Number Of Power Cords", Count(kUnspecifiedIfZero.Rows())},
-    {0x13, kByte, "containedElements", "Contained Elements", By(ReadContainedElements)},
+    {0x13, kByte, "containedElements", "Contained Elements", ListBy(ReadContainedElements)},
     {0x14, kByte, "containedElementRecordLength", "", Measure("byte", " bytes")},
 };
 

@@ -18,7 +18,7 @@ Value ReadHeaderLength(const Reading& reading) {
         return Nothing(kOutOfSpec);
     }
     const auto length = static_cast<std::uint64_t>(data - start);
-    return Number(length, std::to_string(length) + " bytes", "byte");
+    return Number(length, std::to_string(length) + " bytes");
 }
 
 Value ReadLogStatus(const Reading& reading) {
@@ -47,12 +47,12 @@ Value ReadAccessAddress(const Reading& reading) {
 constexpr FieldRow kEventLogRows[] = {
     {0x04, kWord, "logAreaLength", "Area Length", Measure("byte", " bytes")},
     {0x06, kWord, "logHeaderStartOffset", "Header Start Offset", Hex()},
-    {0x08, kWord, "logHeaderLength", "Header Length", By(ReadHeaderLength)},
+    {0x08, kWord, "logHeaderLength", "Header Length", NumberBy(ReadHeaderLength, "byte")},
     {0x08, kWord, "logDataStartOffset", "Data Start Offset", Hex()},
     {0x0A, kByte, "accessMethod", "Access Method", CodeOrOem(kLogAccessMethods.Rows())},
-    {0x0B, kByte, "logStatus", "Status", By(ReadLogStatus)},
+    {0x0B, kByte, "logStatus", "Status", CodeBy(ReadLogStatus)},
     {0x0C, kDword, "logChangeToken", "Change Token", Hex()},
-    {0x10, kDword, "accessMethodAddress", "Access Address", By(ReadAccessAddress)},
+    {0x10, kDword, "accessMethodAddress", "Access Address", NumberBy(ReadAccessAddress)},
     {0x14, kByte, "logHeaderFormat", "Header Format", CodeOrOem(kLogHeaderFormats.Rows())},
     {0x15, kByte, "numberOfSupportedLogTypeDescriptors", "Supported Log Type Descriptors", Count()},
     {0x16, kByte, "lengthOfEachLogTypeDescriptor", "", Measure("byte", " bytes")},

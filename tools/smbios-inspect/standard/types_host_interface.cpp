@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "smbios-inspect/output/units.h"
@@ -40,14 +41,14 @@ Value ReadMacAddress(const Reading& reading) {
 }
 
 constexpr FieldRow kHostInterfaceRows[] = {
-    {0x04, kByte, "interfaceType", "Host Interface Type", By(ReadHostInterface)},
+    {0x04, kByte, "interfaceType", "Host Interface Type", CodeBy(ReadHostInterface)},
     {0x05, kByte, "interfaceTypeSpecificDataLength", "", Measure("byte", " bytes")},
 };
 
 // The devices of a network interface, at the data that is specific to it
 
 constexpr FieldRow kDeviceTypeRows[] = {
-    {0x00, kByte, "deviceType", "Device Type", By(ReadHostDevice)},
+    {0x00, kByte, "deviceType", "Device Type", CodeBy(ReadHostDevice)},
 };
 constexpr FieldRow kUsbRows[] = {
     {0x01, kWord, "vendorId", "idVendor", Hex()},
@@ -64,7 +65,7 @@ constexpr FieldRow kUsb2Rows[] = {
     {0x02, kWord, "vendorId", "idVendor", Hex()},
     {0x04, kWord, "productId", "idProduct", Hex()},
     {0x06, kByte, "serialNumber", "Serial Number", String()},
-    {0x07, 6, "macAddress", "MAC Address", By(ReadMacAddress)},
+    {0x07, 6, "macAddress", "MAC Address", TextBy(ReadMacAddress)},
 };
 constexpr FieldRow kPci2Rows[] = {
     {0x01, kByte, "deviceDescriptorLength", "", Measure("byte", " bytes")},
@@ -72,7 +73,7 @@ constexpr FieldRow kPci2Rows[] = {
     {0x04, kWord, "deviceId", "DeviceID", Hex()},
     {0x06, kWord, "subsystemVendorId", "SubVendorID", Hex()},
     {0x08, kWord, "subsystemId", "SubDeviceID", Hex()},
-    {0x0A, 6, "macAddress", "MAC Address", By(ReadMacAddress)},
+    {0x0A, 6, "macAddress", "MAC Address", TextBy(ReadMacAddress)},
     {0x10, kDword, "busAddress", "Bus Address", BusAddress()},
 };
 
@@ -101,7 +102,7 @@ Value ReadProtocol(const Reading& reading) {
 }
 
 constexpr FieldRow kProtocolRows[] = {
-    {0x00, kByte, "protocolId", "Protocol ID", By(ReadProtocol)},
+    {0x00, kByte, "protocolId", "Protocol ID", CodeBy(ReadProtocol)},
     {0x01, kByte, "protocolTypeSpecificDataLength", "", Measure("byte", " bytes")},
 };
 
@@ -141,12 +142,12 @@ constexpr FieldRow kRedfishHostRows[] = {
     {0x11, kByte, "hostIpAddressFormat", "Host IP Address Format", Code(kIpFormats.Rows())},
 };
 constexpr FieldRow kRedfishHostIpv4Rows[] = {
-    {0x12, 16, "hostIpAddress", "IPv4 Address", By(ReadIpv4)},
-    {0x22, 16, "hostIpMask", "IPv4 Mask", By(ReadIpv4)},
+    {0x12, 16, "hostIpAddress", "IPv4 Address", TextBy(ReadIpv4)},
+    {0x22, 16, "hostIpMask", "IPv4 Mask", TextBy(ReadIpv4)},
 };
 constexpr FieldRow kRedfishHostIpv6Rows[] = {
-    {0x12, 16, "hostIpAddress", "IPv6 Address", By(ReadIpv6)},
-    {0x22, 16, "hostIpMask", "IPv6 Mask", By(ReadIpv6)},
+    {0x12, 16, "hostIpAddress", "IPv6 Address", TextBy(ReadIpv6)},
+    {0x22, 16, "hostIpMask", "IPv6 Mask", TextBy(ReadIpv6)},
 };
 constexpr FieldRow kRedfishServiceRows[] = {
     {0x32,
@@ -161,17 +162,17 @@ constexpr FieldRow kRedfishServiceRows[] = {
      Code(kIpFormats.Rows())},
 };
 constexpr FieldRow kRedfishServiceIpv4Rows[] = {
-    {0x34, 16, "redfishServiceIpAddress", "IPv4 Redfish Service Address", By(ReadIpv4)},
-    {0x44, 16, "redfishServiceIpMask", "IPv4 Redfish Service Mask", By(ReadIpv4)},
+    {0x34, 16, "redfishServiceIpAddress", "IPv4 Redfish Service Address", TextBy(ReadIpv4)},
+    {0x44, 16, "redfishServiceIpMask", "IPv4 Redfish Service Mask", TextBy(ReadIpv4)},
 };
 constexpr FieldRow kRedfishServiceIpv6Rows[] = {
-    {0x34, 16, "redfishServiceIpAddress", "IPv6 Redfish Service Address", By(ReadIpv6)},
-    {0x44, 16, "redfishServiceIpMask", "IPv6 Redfish Service Mask", By(ReadIpv6)},
+    {0x34, 16, "redfishServiceIpAddress", "IPv6 Redfish Service Address", TextBy(ReadIpv6)},
+    {0x44, 16, "redfishServiceIpMask", "IPv6 Redfish Service Mask", TextBy(ReadIpv6)},
 };
 constexpr FieldRow kRedfishPortRows[] = {
     {0x54, kWord, "redfishServiceIpPort", "Redfish Service Port", Count()},
     {0x56, kDword, "redfishServiceVlanId", "Redfish Service Vlan", Count()},
-    {0x5A, kByte, "redfishServiceHostname", "Redfish Service Hostname", By(ReadHostname)},
+    {0x5A, kByte, "redfishServiceHostname", "Redfish Service Hostname", TextBy(ReadHostname)},
 };
 
 constexpr GroupTable kHostInterfaceGroups[] = {

@@ -76,17 +76,23 @@ Value ReadInterruptCode(const Reading& reading) {
 
 constexpr auto kNoStorageDevice = WordsOf({{0xFF, "Not Present"}});
 constexpr auto kNoInterrupt = WordsOf({{0x00, "Not Specified"}});
-constexpr Form kPolarity = {
-    .read = ReadInterruptCode, .words = kInterruptPolarities.Rows(), .lowBit = 1, .bitCount = 1};
-constexpr Form kTrigger = {
-    .read = ReadInterruptCode, .words = kInterruptTriggers.Rows(), .lowBit = 0, .bitCount = 1};
+constexpr Form kPolarity = {.read = ReadInterruptCode,
+                            .kind = ValueKind::code,
+                            .words = kInterruptPolarities.Rows(),
+                            .lowBit = 1,
+                            .bitCount = 1};
+constexpr Form kTrigger = {.read = ReadInterruptCode,
+                           .kind = ValueKind::code,
+                           .words = kInterruptTriggers.Rows(),
+                           .lowBit = 0,
+                           .bitCount = 1};
 
 constexpr FieldRow kIpmiDeviceRows[] = {
     {0x04, kByte, "interfaceType", "Interface Type", Code(kIpmiInterfaces.Rows())},
-    {0x05, kByte, "ipmiSpecRevision", "Spec Version", By(ReadHalfBytesRelease)},
-    {0x06, kByte, "i2cTargetAddress", "I2C Slave Address", By(ReadSlaveAddress)},
+    {0x05, kByte, "ipmiSpecRevision", "Spec Version", TextBy(ReadHalfBytesRelease)},
+    {0x06, kByte, "i2cTargetAddress", "I2C Slave Address", NumberBy(ReadSlaveAddress)},
     {0x07, kByte, "nvStorageDeviceAddress", "NV Storage Device", Count(kNoStorageDevice.Rows())},
-    {0x08, kQword, "baseAddress", "Base Address", By(ReadBaseAddress)},
+    {0x08, kQword, "baseAddress", "Base Address", NumberBy(ReadBaseAddress)},
     {0x10, kByte, "registerSpacing", "Register Spacing", CodeIn(6, 2, kRegisterSpacings.Rows())},
     {0x10, kByte, "interruptPolarity", "Interrupt Polarity", kPolarity},
     {0x10, kByte, "interruptTriggerMode", "Interrupt Trigger Mode", kTrigger},
@@ -122,7 +128,7 @@ constexpr FieldRow kAdditionalEntryRows[] = {
     {0x01, kWord, "referencedHandle", "Referenced Handle", Handle()},
     {0x03, kByte, "referencedOffset", "Referenced Offset", Hex()},
     {0x04, kByte, "string", "String", String()},
-    {0x05, kByte, "value", "Value", By(ReadAdditionalValue)},
+    {0x05, kByte, "value", "Value", NumberBy(ReadAdditionalValue)},
 };
 constexpr GroupTable kAdditionalInformationGroups[] = {
     {.group = "entries", .rows = kAdditionalEntryRows, .heading = "Additional Information #"},
@@ -162,9 +168,9 @@ Value ReadTpmFirmware(const Reading& reading) {
 }
 
 constexpr FieldRow kTpmDeviceRows[] = {
-    {0x04, kDword, "vendorId", "Vendor ID", By(ReadVendorId)},
+    {0x04, kDword, "vendorId", "Vendor ID", TextBy(ReadVendorId)},
     {0x08, kWord, "specVersion", "Spec Version", Release()},
-    {0x0A, kDword, "firmwareVersion1", "Firmware Revision", By(ReadTpmFirmware)},
+    {0x0A, kDword, "firmwareVersion1", "Firmware Revision", TextBy(ReadTpmFirmware)},
     {0x0E, kDword, "firmwareVersion2", "", Hex()},
     {0x12, kByte, "description", "Description", String()},
     {0x13, kQword, "characteristics", "Characteristics", Flags(kTpmCharacteristics.Rows())},
@@ -193,7 +199,7 @@ constexpr FieldRow kFirmwareInventoryRows[] = {
     {0x0A, kByte, "manufacturer", "Manufacturer", String()},
     {0x0B, kByte, "lowestSupportedFirmwareVersion", "Lowest Supported Firmware Version", String()},
     {0x0C, kQword, "imageSize", "Image Size", ByteSize(kUnknownImageSize.Rows())},
-    {0x14, kWord, "characteristics", "Characteristics", By(ReadInventoryCharacteristics)},
+    {0x14, kWord, "characteristics", "Characteristics", FlagsBy(ReadInventoryCharacteristics)},
     {0x16, kByte, "state", "State", Code(kFirmwareStates.Rows())},
     {0x17, kByte, "associatedComponents", "Associated Components", HandleList()},
 };
@@ -212,7 +218,7 @@ Value ReadStringProperty(const Reading& reading) {
 }
 
 constexpr FieldRow kStringPropertyRows[] = {
-    {0x04, kWord, "stringPropertyId", "String Property ID", By(ReadStringProperty)},
+    {0x04, kWord, "stringPropertyId", "String Property ID", CodeBy(ReadStringProperty)},
     {0x06, kByte, "stringPropertyValue", "String Property Value", String()},
     {0x07, kWord, "parentHandle", "Parent Handle", Handle()},
 };

@@ -26,7 +26,7 @@ constexpr FieldRow kMemoryArrayRows[] = {
     {0x04, kByte, "location", "Location", Code(kArrayLocations.Rows())},
     {0x05, kByte, "use", "Use", Code(kArrayUses.Rows())},
     {0x06, kByte, "memoryErrorCorrection", "Error Correction Type", Code(kArrayErrorCorrections.Rows())},
-    {0x07, kDword, "maximumCapacity", "Maximum Capacity", By(ReadMaximumCapacity)},
+    {0x07, kDword, "maximumCapacity", "Maximum Capacity", NumberBy(ReadMaximumCapacity, "byte")},
     {0x0B, kWord, "memoryErrorInformationHandle", "Error Information Handle", Handle(kErrorHandles.Rows())},
     {0x0D, kWord, "numberOfMemoryDevices", "Number Of Devices", Count()},
     {0x0F, kQword, "extendedMaximumCapacity", "", ByteSize()},
@@ -66,7 +66,6 @@ Value ReadDeviceSpeed(const Reading& reading) {
                     : 0;
     }
     Value value = speed == 0 ? Nothing(kUnknown) : Number(speed, std::to_string(speed) + " MT/s");
-    value.unit = "MT/s";
     return value;
 }
 
@@ -82,7 +81,6 @@ std::string VoltsText(std::uint64_t millivolts) {
 Value ReadMillivolts(const Reading& reading) {
     const std::uint64_t millivolts = reading.Raw();
     Value value = millivolts == 0 ? Nothing(kUnknown) : Number(millivolts, VoltsText(millivolts) + " V");
-    value.unit = "mV";
     return value;
 }
 
@@ -107,31 +105,36 @@ Value ReadDeviceRevision(const Reading& reading) {
 constexpr WordList kZero = kUnknownIfZero.Rows();
 
 /// The lower half of the attributes.
-constexpr Form kRank = {.read = ReadNumber, .words = kZero, .lowBit = 0, .bitCount = 4};
+constexpr Form kRank = {
+    .read = ReadNumber, .kind = ValueKind::number, .words = kZero, .lowBit = 0, .bitCount = 4};
 
 constexpr FieldRow kMemoryDeviceRows[] = {
     {0x04, kWord, "physicalMemoryArrayHandle", "Array Handle", Handle()},
     {0x06, kWord, "memoryErrorInformationHandle", "Error Information Handle", Handle(kErrorHandles.Rows())},
     {0x08, kWord, "totalWidth", "Total Width", Measure("bit", " bits", kUnknownWidths.Rows())},
     {0x0A, kWord, "dataWidth", "Data Width", Measure("bit", " bits", kUnknownWidths.Rows())},
-    {0x0C, kWord, "size", "Size", By(ReadDeviceSize)},
+    {0x0C, kWord, "size", "Size", NumberBy(ReadDeviceSize, "byte")},
     {0x0E, kByte, "formFactor", "Form Factor", Code(kFormFactors.Rows())},
     {0x0F, kByte, "deviceSet", "Set", Count(kDeviceSets.Rows())},
     {0x10, kByte, "deviceLocator", "Locator", String()},
     {0x11, kByte, "bankLocator", "Bank Locator", String()},
     {0x12, kByte, "memoryType", "Type", Code(kMemoryTypes.Rows())},
     {0x13, kWord, "typeDetail", "Type Detail", FlagsInLine(kTypeDetails.Rows())},
-    {0x15, kWord, "speed", "Speed", By(ReadDeviceSpeed<0x54>)},
+    {0x15, kWord, "speed", "Speed", NumberBy(ReadDeviceSpeed<0x54>, "MT/s")},
     {0x17, kByte, "manufacturer", "Manufacturer", String()},
     {0x18, kByte, "serialNumber", "Serial Number", String()},
     {0x19, kByte, "assetTag", "Asset Tag", String()},
     {0x1A, kByte, "partNumber", "Part Number", String()},
     {0x1B, kByte, "attributes", "Rank", kRank},
-    {0x1C, kDword, "extendedSize", "", By(ReadExtendedDeviceSize)},
-    {0x20, kWord, "configuredMemorySpeed", "Configured Memory Speed", By(ReadDeviceSpeed<0x58>)},
-    {0x22, kWord, "minimumVoltage", "Minimum Voltage", By(ReadMillivolts)},
-    {0x24, kWord, "maximumVoltage", "Maximum Voltage", By(ReadMillivolts)},
-    {0x26, kWord, "configuredVoltage", "Configured Voltage", By(ReadMillivolts)},
+    {0x1C, kDword, "extendedSize", "", NumberBy(ReadExtendedDeviceSize, "byte")},
+    {0x20,
+     kWord,
+     "configuredMemorySpeed",
+     "Configured Memory Speed",
+     NumberBy(ReadDeviceSpeed<0x58>, "MT/s")},
+    {0x22, kWord, "minimumVoltage", "Minimum Voltage", NumberBy(ReadMillivolts, "mV")},
+    {0x24, kWord, "maximumVoltage", "Maximum Voltage", NumberBy(ReadMillivolts, "mV")},
+    {0x26, kWord, "configuredVoltage", "Configured Voltage", NumberBy(ReadMillivolts, "mV")},
     {0x28, kByte, "memoryTechnology", "Memory Technology", Code(kMemoryTechnologies.Rows())},
     {0x29,
      kWord,
@@ -139,13 +142,13 @@ constexpr FieldRow kMemoryDeviceRows[] = {
      "Memory Operating Mode Capability",
      FlagsInLine(kOperatingModes.Rows())},
     {0x2B, kByte, "firmwareVersion", "Firmware Version", String()},
-    {0x2C, kWord, "moduleManufacturerId", "Module Manufacturer ID", By(ReadManufacturerId)},
+    {0x2C, kWord, "moduleManufacturerId", "Module Manufacturer ID", CodeBy(ReadManufacturerId)},
     {0x2E, kWord, "moduleProductId", "Module Product ID", Hex(kZero)},
     {0x30,
      kWord,
      "memorySubsystemControllerManufacturerId",
      "Memory Subsystem Controller Manufacturer ID",
-     By(ReadManufacturerId)},
+     CodeBy(ReadManufacturerId)},
     {0x32, kWord, "memorySubsystemControllerProductId", "Memory Subsystem Controller Product ID", Hex(kZero)},
     {0x34, kQword, "nonVolatileSize", "Non-Volatile Size", ByteSize(kPortionSizes.Rows())},
     {0x3C, kQword, "volatileSize", "Volatile Size", ByteSize(kPortionSizes.Rows())},
@@ -153,10 +156,10 @@ constexpr FieldRow kMemoryDeviceRows[] = {
     {0x4C, kQword, "logicalSize", "Logical Size", ByteSize(kPortionSizes.Rows())},
     {0x54, kDword, "extendedSpeed", "", Measure("MT/s", " MT/s", kZero)},
     {0x58, kDword, "extendedConfiguredMemorySpeed", "", Measure("MT/s", " MT/s", kZero)},
-    {0x5C, kWord, "pmic0ManufacturerId", "PMIC0 Manufacturer ID", By(ReadManufacturerId)},
-    {0x5E, kWord, "pmic0RevisionNumber", "PMIC0 Revision Number", By(ReadDeviceRevision)},
-    {0x60, kWord, "rcdManufacturerId", "RCD Manufacturer ID", By(ReadManufacturerId)},
-    {0x62, kWord, "rcdRevisionNumber", "RCD Revision Number", By(ReadDeviceRevision)},
+    {0x5C, kWord, "pmic0ManufacturerId", "PMIC0 Manufacturer ID", CodeBy(ReadManufacturerId)},
+    {0x5E, kWord, "pmic0RevisionNumber", "PMIC0 Revision Number", CodeBy(ReadDeviceRevision)},
+    {0x60, kWord, "rcdManufacturerId", "RCD Manufacturer ID", CodeBy(ReadManufacturerId)},
+    {0x62, kWord, "rcdRevisionNumber", "RCD Revision Number", CodeBy(ReadDeviceRevision)},
 };
 
 // Types 18 and 33
@@ -230,9 +233,9 @@ Value ReadRangeSize(const Reading& reading) {
 }
 
 constexpr FieldRow kMemoryArrayMappedAddressRows[] = {
-    {0x04, kDword, "startingAddress", "Starting Address", By(ReadFirstAddress<0x0F>)},
-    {0x08, kDword, "endingAddress", "Ending Address", By(ReadLastAddress<0x0F>)},
-    {0x08, kDword, "rangeSize", "Range Size", By(ReadRangeSize<0x0F>)},
+    {0x04, kDword, "startingAddress", "Starting Address", NumberBy(ReadFirstAddress<0x0F>)},
+    {0x08, kDword, "endingAddress", "Ending Address", NumberBy(ReadLastAddress<0x0F>)},
+    {0x08, kDword, "rangeSize", "Range Size", NumberBy(ReadRangeSize<0x0F>, "byte")},
     {0x0C, kWord, "memoryArrayHandle", "Physical Array Handle", Handle()},
     {0x0E, kByte, "partitionWidth", "Partition Width", Count()},
     {0x0F, kQword, "extendedStartingAddress", "", Hex()},
@@ -240,9 +243,9 @@ constexpr FieldRow kMemoryArrayMappedAddressRows[] = {
 };
 
 constexpr FieldRow kMemoryDeviceMappedAddressRows[] = {
-    {0x04, kDword, "startingAddress", "Starting Address", By(ReadFirstAddress<0x13>)},
-    {0x08, kDword, "endingAddress", "Ending Address", By(ReadLastAddress<0x13>)},
-    {0x08, kDword, "rangeSize", "Range Size", By(ReadRangeSize<0x13>)},
+    {0x04, kDword, "startingAddress", "Starting Address", NumberBy(ReadFirstAddress<0x13>)},
+    {0x08, kDword, "endingAddress", "Ending Address", NumberBy(ReadLastAddress<0x13>)},
+    {0x08, kDword, "rangeSize", "Range Size", NumberBy(ReadRangeSize<0x13>, "byte")},
     {0x0C, kWord, "memoryDeviceHandle", "Physical Device Handle", Handle()},
     {0x0E, kWord, "memoryArrayMappedAddressHandle", "Memory Array Mapped Address Handle", Handle()},
     {0x10, kByte, "partitionRowPosition", "Partition Row Position", Count(kRowPositions.Rows())},

@@ -15,7 +15,7 @@ constexpr std::size_t kFirstSlot = 0x0F;
 
 /// "32 MiB"; sizes here are powers of two in MiB and stay in that unit.
 Value MebibytesValue(std::uint64_t mebibytes) {
-    return Number(mebibytes << 20, std::to_string(mebibytes) + " MiB", "byte");
+    return Number(mebibytes << 20, std::to_string(mebibytes) + " MiB");
 }
 
 /// More than 2^43 MiB is no size: it cannot be told in bytes.
@@ -47,11 +47,19 @@ constexpr FieldRow kMemoryControllerRows[] = {
      Flags(kErrorCorrectingCapabilities.Rows())},
     {0x06, kByte, "supportedInterleave", "Supported Interleave", Code(kInterleaves.Rows())},
     {0x07, kByte, "currentInterleave", "Current Interleave", Code(kInterleaves.Rows())},
-    {0x08, kByte, "maximumMemoryModuleSize", "Maximum Memory Module Size", By(ReadMaximumModuleSize)},
+    {0x08,
+     kByte,
+     "maximumMemoryModuleSize",
+     "Maximum Memory Module Size",
+     NumberBy(ReadMaximumModuleSize, "byte")},
     {0x09, kWord, "supportedSpeeds", "Supported Speeds", Flags(kModuleSpeeds.Rows())},
     {0x0B, kWord, "supportedMemoryTypes", "Supported Memory Types", Flags(kModuleTypes.Rows())},
-    {0x0D, kByte, "memoryModuleVoltage", "Memory Module Voltage", By(ReadModuleVoltage)},
-    {kSlotCount, kByte, "maximumTotalMemorySize", "Maximum Total Memory Size", By(ReadMaximumTotalSize)},
+    {0x0D, kByte, "memoryModuleVoltage", "Memory Module Voltage", CodeBy(ReadModuleVoltage)},
+    {kSlotCount,
+     kByte,
+     "maximumTotalMemorySize",
+     "Maximum Total Memory Size",
+     NumberBy(ReadMaximumTotalSize, "byte")},
     {kSlotCount, kByte, "associatedMemorySlots", "Associated Memory Slots", HandleList()},
 };
 
@@ -126,12 +134,12 @@ Value ReadModuleErrors(const Reading& reading) {
 
 constexpr FieldRow kMemoryModuleRows[] = {
     {0x04, kByte, "socketDesignation", "Socket Designation", String()},
-    {0x05, kByte, "bankConnections", "Bank Connections", By(ReadBankConnections)},
+    {0x05, kByte, "bankConnections", "Bank Connections", CodeBy(ReadBankConnections)},
     {0x06, kByte, "currentSpeed", "Current Speed", Measure("ns", " ns", kUnknownIfZero.Rows())},
     {0x07, kWord, "currentMemoryType", "Type", FlagsInLine(kModuleTypes.Rows())},
-    {0x09, kByte, "installedSize", "Installed Size", By(ReadModuleSize)},
-    {0x0A, kByte, "enabledSize", "Enabled Size", By(ReadModuleSize)},
-    {0x0B, kByte, "errorStatus", "Error Status", By(ReadModuleErrors)},
+    {0x09, kByte, "installedSize", "Installed Size", NumberBy(ReadModuleSize, "byte")},
+    {0x0A, kByte, "enabledSize", "Enabled Size", NumberBy(ReadModuleSize, "byte")},
+    {0x0B, kByte, "errorStatus", "Error Status", CodeBy(ReadModuleErrors)},
 };
 
 }  // namespace

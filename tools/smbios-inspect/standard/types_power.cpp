@@ -23,7 +23,6 @@ Value ReadDesignCapacity(const Reading& reading) {
     const std::uint64_t capacity = reading.Raw() * multiplier;
     Value value =
         reading.Raw() == 0 ? Nothing(kUnknown) : Number(capacity, std::to_string(capacity) + " mWh");
-    value.unit = "mWh";
     return value;
 }
 
@@ -50,12 +49,12 @@ constexpr FieldRow kPortableBatteryRows[] = {
     {0x07, kByte, "serialNumber", "Serial Number", String()},
     {0x08, kByte, "deviceName", "Name", String()},
     {0x09, kByte, "deviceChemistry", "Chemistry", Code(kBatteryChemistries.Rows())},
-    {0x0A, kWord, "designCapacity", "Design Capacity", By(ReadDesignCapacity)},
+    {0x0A, kWord, "designCapacity", "Design Capacity", NumberBy(ReadDesignCapacity, "mWh")},
     {0x0C, kWord, "designVoltage", "Design Voltage", Measure("mV", " mV", kUnknownIfZero.Rows())},
     {0x0E, kByte, "sbdsVersionNumber", "SBDS Version", String()},
     {0x0F, kByte, "maximumErrorInBatteryData", "Maximum Error", Measure("%", "%", kUnknownIfByteFull.Rows())},
-    {0x10, kWord, "sbdsSerialNumber", "SBDS Serial Number", By(ReadSerialWord)},
-    {0x12, kWord, "sbdsManufactureDate", "SBDS Manufacture Date", By(ReadManufactureDate)},
+    {0x10, kWord, "sbdsSerialNumber", "SBDS Serial Number", NumberBy(ReadSerialWord)},
+    {0x12, kWord, "sbdsManufactureDate", "SBDS Manufacture Date", TextBy(ReadManufactureDate)},
     {0x14, kByte, "sbdsDeviceChemistry", "SBDS Chemistry", String()},
     {0x15, kByte, "designCapacityMultiplier", "", Count()},
     {0x16, kDword, "oemSpecific", "OEM-specific Information", Hex()},
@@ -77,7 +76,7 @@ Value ReadPowerOnTime(const Reading& reading) {
 }
 
 constexpr FieldRow kPowerControlsRows[] = {
-    {0x04, 5, "nextScheduledPowerOn", "Next Scheduled Power-on", By(ReadPowerOnTime)},
+    {0x04, 5, "nextScheduledPowerOn", "Next Scheduled Power-on", TextBy(ReadPowerOnTime)},
 };
 
 // Types 26, 28 and 29
@@ -161,7 +160,7 @@ constexpr FieldRow kPowerSupplyRows[] = {
     {0x0A, kByte, "modelPartNumber", "Model Part Number", String()},
     {0x0B, kByte, "revisionLevel", "Revision", String()},
     {0x0C, kWord, "maxPowerCapacity", "Max Power Capacity", Measure("W", " W", kUnknownIfHighBit.Rows())},
-    {0x0E, kWord, "status", "Status", By(ReadSupplyStatus)},
+    {0x0E, kWord, "status", "Status", CodeBy(ReadSupplyStatus)},
     {0x0E, kWord, "present", "", CodeIn(1, 1, kYesNo.Rows())},
     {0x0E, kWord, "type", "Type", CodeIn(10, 4, kSupplyTypes.Rows())},
     {0x0E,

@@ -49,10 +49,10 @@ Value ReadProcessorVoltage(const Reading& reading) {
     const std::uint64_t voltage = reading.Raw();
     if ((voltage & kIsCurrent) != 0) {
         const auto tenths = static_cast<std::int64_t>(voltage & 0x7F);
-        return Number(voltage & 0x7F, DecimalText(tenths, 1) + " V", "0.1 V");
+        return Number(voltage & 0x7F, DecimalText(tenths, 1) + " V");
     }
     const std::string capable = InOneLine(NamesOfBits(kProcessorVoltages.Rows(), voltage));
-    return capable.empty() ? Nothing(kUnknown) : Words(voltage, capable);
+    return Nothing(capable.empty() ? kUnknown : std::string_view(capable));
 }
 
 Value ReadProcessorStatus(const Reading& reading) {
@@ -90,27 +90,27 @@ constexpr WordList kNotProvided = kNotProvidedIfWordFull.Rows();
 constexpr FieldRow kProcessorRows[] = {
     {0x04, kByte, "socketDesignation", "Socket Designation", String()},
     {0x05, kByte, "processorType", "Type", Code(kProcessorTypes.Rows())},
-    {0x06, kByte, "processorFamily", "Family", By(ReadFamily)},
+    {0x06, kByte, "processorFamily", "Family", CodeBy(ReadFamily)},
     {0x07, kByte, "processorManufacturer", "Manufacturer", String()},
     {0x08, kQword, "processorId", "ID", RawBytes()},
-    {0x08, kQword, "signature", "Signature", By(ReadSignature)},
-    {0x0C, kDword, "featureFlags", "Flags", By(ReadProcessorFlags)},
+    {0x08, kQword, "signature", "Signature", TextBy(ReadSignature)},
+    {0x0C, kDword, "featureFlags", "Flags", FlagsBy(ReadProcessorFlags)},
     {0x10, kByte, "processorVersion", "Version", String()},
-    {0x11, kByte, "voltage", "Voltage", By(ReadProcessorVoltage)},
+    {0x11, kByte, "voltage", "Voltage", NumberBy(ReadProcessorVoltage, "0.1 V")},
     {0x12, kWord, "externalClock", "External Clock", Measure("MHz", " MHz", kUnknownIfZero.Rows())},
     {0x14, kWord, "maxSpeed", "Max Speed", Measure("MHz", " MHz", kUnknownIfZero.Rows())},
     {0x16, kWord, "currentSpeed", "Current Speed", Measure("MHz", " MHz", kUnknownIfZero.Rows())},
-    {0x18, kByte, "status", "Status", By(ReadProcessorStatus)},
+    {0x18, kByte, "status", "Status", CodeBy(ReadProcessorStatus)},
     {0x19, kByte, "processorUpgrade", "Upgrade", Code(kProcessorUpgrades.Rows())},
-    {0x1A, kWord, "l1CacheHandle", "L1 Cache Handle", By(ReadCacheHandle<'1'>, kNotProvided)},
-    {0x1C, kWord, "l2CacheHandle", "L2 Cache Handle", By(ReadCacheHandle<'2'>, kNotProvided)},
-    {0x1E, kWord, "l3CacheHandle", "L3 Cache Handle", By(ReadCacheHandle<'3'>, kNotProvided)},
+    {0x1A, kWord, "l1CacheHandle", "L1 Cache Handle", HandleBy(ReadCacheHandle<'1'>, kNotProvided)},
+    {0x1C, kWord, "l2CacheHandle", "L2 Cache Handle", HandleBy(ReadCacheHandle<'2'>, kNotProvided)},
+    {0x1E, kWord, "l3CacheHandle", "L3 Cache Handle", HandleBy(ReadCacheHandle<'3'>, kNotProvided)},
     {0x20, kByte, "serialNumber", "Serial Number", String()},
     {0x21, kByte, "assetTag", "Asset Tag", String()},
     {0x22, kByte, "partNumber", "Part Number", String()},
-    {0x23, kByte, "coreCount", "Core Count", By(ReadCoreCount<0x2A>)},
-    {0x24, kByte, "coreEnabled", "Core Enabled", By(ReadCoreCount<0x2C>)},
-    {0x25, kByte, "threadCount", "Thread Count", By(ReadCoreCount<0x2E>)},
+    {0x23, kByte, "coreCount", "Core Count", NumberBy(ReadCoreCount<0x2A>)},
+    {0x24, kByte, "coreEnabled", "Core Enabled", NumberBy(ReadCoreCount<0x2C>)},
+    {0x25, kByte, "threadCount", "Thread Count", NumberBy(ReadCoreCount<0x2E>)},
     {0x26, kWord, "processorCharacteristics", "Characteristics", Flags(kProcessorCharacteristics.Rows())},
     {0x28, kWord, "processorFamily2", "", Code(kProcessorFamilies.Rows())},
     {0x2A, kWord, "coreCount2", "", Count()},
@@ -154,19 +154,19 @@ Value ReadWideCacheSize(const Reading& reading) {
 
 constexpr FieldRow kCacheRows[] = {
     {0x04, kByte, "socketDesignation", "Socket Designation", String()},
-    {0x05, kWord, "cacheConfiguration", "Configuration", By(ReadCacheConfiguration)},
+    {0x05, kWord, "cacheConfiguration", "Configuration", CodeBy(ReadCacheConfiguration)},
     {0x05, kWord, "operationalMode", "Operational Mode", CodeIn(8, 2, kCacheModes.Rows())},
     {0x05, kWord, "location", "Location", CodeIn(5, 2, kCacheLocations.Rows())},
-    {0x07, kWord, "maximumCacheSize", "Maximum Size", By(ReadCacheSize<0x13>)},
-    {0x09, kWord, "installedSize", "Installed Size", By(ReadCacheSize<0x17>)},
+    {0x07, kWord, "maximumCacheSize", "Maximum Size", NumberBy(ReadCacheSize<0x13>, "byte")},
+    {0x09, kWord, "installedSize", "Installed Size", NumberBy(ReadCacheSize<0x17>, "byte")},
     {0x0B, kWord, "supportedSramType", "Supported SRAM Types", Flags(kSramTypes.Rows())},
     {0x0D, kWord, "currentSramType", "Installed SRAM Type", FlagsInLine(kSramTypes.Rows())},
     {0x0F, kByte, "cacheSpeed", "Speed", Measure("ns", " ns", kUnknownIfZero.Rows())},
     {0x10, kByte, "errorCorrectionType", "Error Correction Type", Code(kCacheErrorCorrections.Rows())},
     {0x11, kByte, "systemCacheType", "System Type", Code(kCacheTypes.Rows())},
     {0x12, kByte, "associativity", "Associativity", Code(kCacheAssociativities.Rows())},
-    {0x13, kDword, "maximumCacheSize2", "", By(ReadWideCacheSize)},
-    {0x17, kDword, "installedCacheSize2", "", By(ReadWideCacheSize)},
+    {0x13, kDword, "maximumCacheSize2", "", NumberBy(ReadWideCacheSize, "byte")},
+    {0x17, kDword, "installedCacheSize2", "", NumberBy(ReadWideCacheSize, "byte")},
 };
 
 }  // namespace

@@ -64,17 +64,17 @@ Value ReadPitch(const Reading& reading) {
     if (pitch == 0) {
         return Nothing(kUnknown);
     }
-    return Number(pitch, DecimalText(static_cast<std::int64_t>(pitch), 2) + " mm", "0.01 mm");
+    return Number(pitch, DecimalText(static_cast<std::int64_t>(pitch), 2) + " mm");
 }
 
 constexpr FieldRow kSystemSlotRows[] = {
     {0x04, kByte, "slotDesignation", "Designation", String()},
-    {0x05, kByte, "slotType", "Type", By(ReadSlotType)},
+    {0x05, kByte, "slotType", "Type", CodeBy(ReadSlotType)},
     {0x06, kByte, "slotDataBusWidth", "", Code(kSlotPhysicalWidths.Rows())},
     {0x07, kByte, "currentUsage", "Current Usage", Code(kSlotUsages.Rows())},
     {0x08, kByte, "slotLength", "Length", Code(kSlotLengths.Rows())},
-    {0x09, kWord, "slotId", "ID", By(ReadSlotId)},
-    {0x0B, kByte, "slotCharacteristics1", "Characteristics", By(ReadSlotCharacteristics)},
+    {0x09, kWord, "slotId", "ID", NumberBy(ReadSlotId)},
+    {0x0B, kByte, "slotCharacteristics1", "Characteristics", FlagsBy(ReadSlotCharacteristics)},
     {0x0C, kByte, "slotCharacteristics2", "", Flags(kSlotCharacteristics2.Rows())},
     {0x0D, kDword, "busAddress", "Bus Address", BusAddress()},
     {0x11, kByte, "dataBusWidth", "Data Bus Width", Count()},
@@ -82,7 +82,7 @@ constexpr FieldRow kSystemSlotRows[] = {
 };
 
 constexpr FieldRow kPeerRows[] = {
-    {0x00, kPeerSize, "busAddress", "Peer Device #", By(ReadPeer)},
+    {0x00, kPeerSize, "busAddress", "Peer Device #", TextBy(ReadPeer)},
     {0x04, kByte, "dataBusWidth", "", Count()},
 };
 
@@ -90,7 +90,7 @@ constexpr FieldRow kPeerRows[] = {
 constexpr FieldRow kBehindPeersRows[] = {
     {0x00, kByte, "slotInformation", "PCI Express Generation", Count()},
     {0x01, kByte, "slotPhysicalWidth", "Slot Physical Width", Code(kSlotPhysicalWidths.Rows())},
-    {0x02, kWord, "slotPitch", "Pitch", By(ReadPitch)},
+    {0x02, kWord, "slotPitch", "Pitch", NumberBy(ReadPitch, "0.01 mm")},
     {0x04, kByte, "slotHeight", "Height", Code(kSlotHeights.Rows())},
 };
 

@@ -29,9 +29,9 @@ Value ReadExtendedRomSize(std::uint16_t size) {
     const std::uint64_t number = size & 0x3FFFU;
     switch (size >> 14) {
         case 0:
-            return Number(number << 20, std::to_string(number) + " MiB", "byte");
+            return Number(number << 20, std::to_string(number) + " MiB");
         case 1:
-            return Number(number << 30, std::to_string(number) + " GiB", "byte");
+            return Number(number << 30, std::to_string(number) + " GiB");
         default:
             return Nothing(std::to_string(number) + " " + std::string(kOutOfSpec));
     }
@@ -63,11 +63,11 @@ Value ReadFirmwareCharacteristics(const Reading& reading) {
 constexpr FieldRow kFirmwareInformationRows[] = {
     {0x04, kByte, "vendor", "Vendor", String()},
     {0x05, kByte, "firmwareVersion", "Version", String()},
-    {0x06, kWord, "biosStartingAddressSegment", "Address", By(ReadStartAddress)},
-    {0x06, kWord, "runtimeSize", "Runtime Size", By(ReadRuntimeSize)},
+    {0x06, kWord, "biosStartingAddressSegment", "Address", NumberBy(ReadStartAddress)},
+    {0x06, kWord, "runtimeSize", "Runtime Size", NumberBy(ReadRuntimeSize, "byte")},
     {0x08, kByte, "firmwareReleaseDate", "Release Date", String()},
-    {0x09, kByte, "firmwareRomSize", "ROM Size", By(ReadRomSize)},
-    {0x0A, kQword, "biosCharacteristics", "Characteristics", By(ReadFirmwareCharacteristics)},
+    {0x09, kByte, "firmwareRomSize", "ROM Size", NumberBy(ReadRomSize, "byte")},
+    {0x0A, kQword, "biosCharacteristics", "Characteristics", FlagsBy(ReadFirmwareCharacteristics)},
     {0x12, kByte, "biosCharacteristicsExtensionByte1", "", Flags(kFirmwareCharacteristics1.Rows())},
     {0x13, kByte, "biosCharacteristicsExtensionByte2", "", Flags(kFirmwareCharacteristics2.Rows())},
     {0x14, kWord, "platformFirmwareRelease", "BIOS Revision", Release()},
@@ -135,7 +135,7 @@ Value ReadLanguages(const Reading& reading) {
 }
 
 constexpr FieldRow kFirmwareLanguageRows[] = {
-    {0x04, kByte, "installableLanguages", "Installable Languages", By(ReadLanguages)},
+    {0x04, kByte, "installableLanguages", "Installable Languages", ListBy(ReadLanguages)},
     {0x05, kByte, "flags", "Language Description Format", CodeIn(0, 1, kLanguageFormats.Rows())},
     {0x15, kByte, "currentLanguage", "Currently Installed Language", String()},
 };
@@ -152,14 +152,12 @@ Value ReadGroupItems(const Reading& reading) {
         items.push_back({std::uint64_t{handle}, HexText(handle, 4) + " (" + TypeWords(area.Byte(at)) + ")"});
     }
     const std::size_t count = items.size();
-    Value list = List(count, std::to_string(count), std::move(items));
-    list.isHandle = true;
-    return list;
+    return List(count, std::to_string(count), std::move(items));
 }
 
 constexpr FieldRow kGroupAssociationsRows[] = {
     {0x04, kByte, "groupName", "Name", String()},
-    {0x04, kByte, "items", "Items", By(ReadGroupItems)},
+    {0x04, kByte, "items", "Items", HandleListBy(ReadGroupItems)},
 };
 
 // Type 23
@@ -226,8 +224,8 @@ Value ReadFarPointer(const Reading& reading) {
 }
 
 constexpr FieldRow kBootIntegrityServicesRows[] = {
-    {0x04, kByte, "checksum", "Checksum", By(ReadChecksum)},
-    {0x08, kDword, "entryPoint16", "16-bit Entry Point Address", By(ReadFarPointer)},
+    {0x04, kByte, "checksum", "Checksum", CodeBy(ReadChecksum)},
+    {0x08, kDword, "entryPoint16", "16-bit Entry Point Address", NumberBy(ReadFarPointer)},
     {0x0C, kDword, "entryPoint32", "32-bit Entry Point Address", Hex()},
 };
 
@@ -244,7 +242,7 @@ Value ReadBootStatus(const Reading& reading) {
 }
 
 constexpr FieldRow kSystemBootRows[] = {
-    {0x0A, kByte, "bootStatus", "Status", By(ReadBootStatus)},
+    {0x0A, kByte, "bootStatus", "Status", CodeBy(ReadBootStatus)},
 };
 
 }  // namespace

@@ -9,6 +9,17 @@
 
 namespace SMBIOS::Inspect::Standard {
 
+/// What sort of value a field has, and so what its plain value is.
+enum class ValueKind : std::uint8_t {
+    text,        ///< a text
+    number,      ///< a number, of the field's unit if it has one
+    code,        ///< a number that stands for words
+    flags,       ///< a number whose bits stand for the items
+    handle,      ///< the handle of another structure
+    list,        ///< how many items there are
+    handleList,  ///< how many handles there are, which are the items
+};
+
 /// What a value is, apart from its words: nothing (not specified, unknown), a number or a text.
 using Plain = std::variant<std::monostate, std::uint64_t, std::int64_t, std::string>;
 
@@ -21,11 +32,10 @@ struct Item {
 /// The value of a field.
 struct Value {
     Plain plain = {};
-    std::string_view unit = {};  ///< of a number
-    std::string text = {};       ///< as people read it; empty where the items say it all
-    bool hasWords = false;       ///< `text` says more than the plain value with its unit does
-    bool isHandle = false;       ///< refers to other structures, as a number or with its items
-    bool isList = false;         ///< there may be items: names of the bits set, or what a structure lists
+    std::string text = {};  ///< as people read it; empty where the items say it all
+    bool hasWords = false;  ///< `text` says more than the plain value does
+    bool isInLine = false;  ///< people read the items in `text`
+    bool isList = false;    ///< there may be items: names of the bits set, or what a structure lists
     std::vector<Item> items = {};
 };
 
@@ -39,11 +49,10 @@ struct Value {
     return {.plain = text, .text = text};
 }
 
-/// A number, and how people read it with its unit.
-[[nodiscard]] inline Value Number(std::uint64_t number, std::string text, std::string_view unit = {}) {
-    return {.plain = number, .unit = unit, .text = std::move(text)};
+/// A number, and how people read it.
+[[nodiscard]] inline Value Number(std::uint64_t number, std::string text) {
+    return {.plain = number, .text = std::move(text)};
 }
-
 [[nodiscard]] inline Value SignedNumber(std::int64_t number, std::string text) {
     return {.plain = number, .text = std::move(text)};
 }
