@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "smbios-inspect/standard/types.h"
+#include "tests/inspect/standard/standard_support.h"
+
+// Structures that no firmware would write.
+namespace SMBIOS::Tests {
+namespace {
+
+using Inspect::Json;
+using Inspect::Standard::FieldRow;
+
+constexpr int kTypes = 256;
+constexpr int kLengths = 256;
+
+class Random {
+public:
+    explicit Random(unsigned seed) : engine_(seed) {}
+
+    /// Small numbers, which are counts and lengths, come often.
+    std::uint8_t Byte() {
+        const auto bits = static_cast<unsigned>(engine_());
+        return static_cast<std::uint8_t>((bits & 0x100U) != 0 ? bits : bits & 0x07U);
+    }
+
+    std::size_t Below(std::size_t limit) { return engine_() % limit; }
+
+private:
+    std::mt19937 engine_;
+};
+
+StructureBuilder RandomStructure(int type, int length, Random& random) {
+    StructureBuilder structure(static_cast<std::uint8_t>(type), static_cast<std::uint8_t>(length));
+    for (int offset = 4; offset < length; ++offset) {
+        structure.Byte(static_cast<std::size_t>(offset), random.Byte());
+    }
+    for (std::size_t strings = random.Below(4); strings != 0; --strings) {
+        structure.String(std::string(1 + random.Below(5), static_cast<char>(1 + random.Below(255))));
+    }
+    return structure;
+}
+
+std::vector<std::uint8_t> RandomBytes(std::size_t size, Random& random) {
+    std::vector<std::uint8_t> bytes(size);
+    std::ranges::generate(bytes, [&] { return random.Byte(); });
+    return TableBuilder(3, 8, 0).AddBytes(bytes).RawTable();
+}
+
+/// The text that is printed, whose bytes that are not UTF-8 are replaced.
+std::string Printed(const Json& json) {
+    std::ostringstream output;
+    Inspect::PrintJson(json, output);
+    return output.str();
+}
+
+class RandomStructuresOfStandard : public testing::TestWithParam<int> {};
+
+TEST_P(RandomStructuresOfStandard, OfEveryLengthAreValidJson) {
+    Random random(static_cast<unsigned>(GetParam()));
+    for (int length = 4; length < kLengths; ++length) {
+        const Json list = FirmwareJson(TableOf(RandomStructure(GetParam(), length, random)));
+        ASSERT_EQ(list.size(), 1U);
+        EXPECT_EQ(list.at(0).at("length"), length);
+        EXPECT_TRUE(Json::accept(Printed(list)));
+    }
+}
+
+TEST_P(RandomStructuresOfStandard, HaveEveryFieldTheyAreLongEnoughFor) {
+    const auto* description = Inspect::Standard::DescriptionOf(static_cast<std::uint8_t>(GetParam()));
+    Random random(static_cast<unsigned>(GetParam()));
+    for (int length = 4; description != nullptr && length < kLengths; ++length) {
+        const Json fields =
+            FirmwareJson(TableOf(RandomStructure(GetParam(), length, random))).at(0).at("fields");
+        for (const FieldRow& row : description->rows) {
+            EXPECT_EQ(fields.contains(std::string(row.name)),
+                      row.offset + row.width <= static_cast<std::size_t>(length))
+                << row.name << " of a structure of " << length << " bytes";
+        }
+    }
+}
+
+TEST_P(RandomStructuresOfStandard, CanAllBePrinted) {
+    Random random(static_cast<unsigned>(GetParam()));
+    for (int length = 4; length < kLengths; ++length) {
+        const std::string text = FirmwareText(TableOf(RandomStructure(GetParam(), length, random)));
+        EXPECT_TRUE(text.starts_with("Type " + std::to_string(GetParam())));
+        EXPECT_TRUE(text.ends_with('\n'));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Types, RandomStructuresOfStandard, testing::Range(0, 50));
+INSTANTIATE_TEST_SUITE_P(OtherTypes, RandomStructuresOfStandard, testing::Values(126, 127, 128, 255));
+
+TEST(RandomTablesOfStandard, AreShownWhereverTheyEnd) {
+    constexpr int kTables = 2000;
+    Random random(1);
+    for (int i = 0; i < kTables; ++i) {
+        const auto table = RandomBytes(random.Below(600), random);
+        EXPECT_TRUE(Json::accept(Printed(FirmwareJson(table))));
+        EXPECT_TRUE(FirmwareText(table).empty() == FirmwareJson(table).empty());
+    }
+}
+
+TEST(RandomTablesOfStandard, AreGoneThroughToTheLastByte) {
+    Random random(2);
+    TableBuilder table(3, 8, 0);
+    for (int type = 0; type < kTypes; ++type) {
+        table.Add(RandomStructure(type, 4 + static_cast<int>(random.Below(252)), random));
+    }
+    EXPECT_EQ(FirmwareJson(table.RawTable()).size(), static_cast<std::size_t>(kTypes));
+}
+
+}  // namespace
+}  // namespace SMBIOS::Tests
