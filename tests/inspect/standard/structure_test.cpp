@@ -69,6 +69,13 @@ TEST(StandardWalk, EndsWhereOnlyZerosFollow) {
     EXPECT_TRUE(StructuresOf(TableOfBytes({0, 0})).empty());
 }
 
+TEST(StandardWalk, ShowsThatMoreThanZerosFollow) {
+    const auto table = TableOfBytes({0, 0, 0, 0, 0, 0, 1});
+    const auto structures = StructuresOf(table);
+    ASSERT_EQ(structures.size(), 1U);
+    EXPECT_FALSE(structures[0].defect.empty());
+}
+
 TEST(StandardWalk, GivesWhatThereIsOfAStructureThatTheTableCutsShort) {
     const auto table = TableOfBytes({24, 5, 1, 0});
     const auto structures = StructuresOf(table);

@@ -16,7 +16,7 @@ std::string_view AsText(std::span<const std::uint8_t> bytes) noexcept {
 }
 
 bool IsPadding(std::span<const std::uint8_t> bytes) noexcept {
-    return bytes.front() == 0 && std::ranges::all_of(bytes, [](std::uint8_t byte) { return byte == 0; });
+    return std::ranges::all_of(bytes, [](std::uint8_t byte) { return byte == 0; });
 }
 
 }  // namespace
@@ -30,11 +30,10 @@ TableWalk::TableWalk(std::span<const std::uint8_t> rawTable) noexcept {
 }
 
 std::optional<Structure> TableWalk::Next() {
-    if (rest_.empty() ||
-        (rest_.front() == 0 && IsPadding(rest_.first(std::min(rest_.size(), kHeaderSize))))) {
+    const std::size_t length = rest_.size() < 2 ? 0 : rest_[1];
+    if (rest_.empty() || (length == 0 && IsPadding(rest_))) {
         return std::nullopt;
     }
-    const std::size_t length = rest_.size() < 2 ? kHeaderSize : rest_[1];
     Structure structure;
     structure.version = version_;
     if (length < kHeaderSize || length > rest_.size()) {

@@ -1,0 +1,132 @@
+#include "smbios-inspect/standard/firmware_report.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "smbios-inspect/output/json.h"
+#include "tests/inspect/run_tool.h"
+#include "tests/inspect/standard/standard_support.h"
+#include "tests/support/fake_platform.h"
+
+namespace SMBIOS::Tests {
+namespace {
+
+using Inspect::Command;
+using Inspect::Json;
+using Inspect::Options;
+using Inspect::ParseOptions;
+using Inspect::UsageError;
+using Words = std::vector<std::string_view>;
+
+std::vector<std::uint8_t> SmallTable() {
+    return TableBuilder(3, 2, 1)
+        .Add({24, 5, 0x0018})
+        .Add({126, 4, 0x0126})
+        .Add({21, 7, 0x0021})
+        .Add({200, 4, 0x0200})
+        .Add({24, 5, 0x0019})
+        .Add({127, 4, 0x7F01})
+        .RawTable();
+}
+
+std::string FirmwareReport(std::vector<std::uint8_t> table, const Options& options) {
+    const FakeFirmwareTable firmware(std::move(table));
+    std::ostringstream output;
+    Inspect::ReportFirmware(options, {}, output);
+    return output.str();
+}
+
+std::vector<int> HandlesOf(const Options& options) {
+    Options withJson = options;
+    withJson.json = true;
+    const Json report = Json::parse(FirmwareReport(SmallTable(), withJson));
+    std::vector<int> handles;
+    for (const Json& structure : report.at("structures")) {
+        handles.push_back(structure.at("handle"));
+    }
+    return handles;
+}
+
+TEST(FirmwareReport, HasTheVersionAndEveryStructureInTableOrder) {
+    const Json report = Json::parse(FirmwareReport(SmallTable(), {.json = true}));
+    EXPECT_EQ(report.at("version"), "3.2.1");
+    EXPECT_EQ(HandlesOf({}), (std::vector{0x18, 0x126, 0x21, 0x200, 0x19, 0x7F01}));
+}
+
+TEST(FirmwareReport, TypesSelectTheirStructures) {
+    EXPECT_EQ(HandlesOf({.types = {24, 127}}), (std::vector{0x18, 0x19, 0x7F01}));
+}
+
+TEST(FirmwareReport, HandlesSelectTheirStructures) {
+    EXPECT_EQ(HandlesOf({.handles = {0x19, 0x200}}), (std::vector{0x200, 0x19}));
+}
+
+TEST(FirmwareReport, TypesAndHandlesSelectWhatIsBoth) {
+    EXPECT_EQ(HandlesOf({.types = {24}, .handles = {0x19, 0x200}}), (std::vector{0x19}));
+}
+
+TEST(FirmwareReport, QuietLeavesOutWhatHasNoValues) {
+    EXPECT_EQ(HandlesOf({.quiet = true}), (std::vector{0x18, 0x21, 0x19}));
+}
+
+TEST(FirmwareReport, BlocksHaveAnEmptyLineBetweenThem) {
+    const std::string text = FirmwareReport(SmallTable(), {.handles = {0x0021, 0x7F01}});
+    EXPECT_EQ(text,
+              "Type 21: Built-in Pointing Device, handle 0x0021, 7 bytes\n"
+              "\tType: <OUT OF SPEC>\n"
+              "\tInterface: <OUT OF SPEC>\n"
+              "\tButtons: 0\n"
+              "\n"
+              "Type 127: End of Table, handle 0x7F01, 4 bytes\n"
+              "\tHeader and Data:\n"
+              "\t\t7F 04 01 7F\n");
+}
+
+TEST(FirmwareReport, SaysThatNothingIsSelected) {
+    EXPECT_EQ(FirmwareReport(SmallTable(), {.types = {5}}), "The table holds no such structure.\n");
+}
+
+TEST(FirmwareReport, IsWhatTheCommandPrints) {
+    const ToolResult result = RunTool({"firmware", "--from", SMBIOS_SAMPLE_TABLE, "--type", "127"});
+    EXPECT_EQ(result.status, Inspect::kSuccess) << result.errors;
+    EXPECT_TRUE(result.output.starts_with("Type 127: End of Table, handle 0x")) << result.output;
+}
+
+TEST(FirmwareOptions, NameTheCommandAndWhatItTakes) {
+    const Options options = ParseOptions(
+        Words{"firmware", "--json", "--quiet", "--type=17", "--handle", "0x1A", "--handle=65535"});
+    EXPECT_EQ(options.command, Command::firmware);
+    EXPECT_TRUE(options.json);
+    EXPECT_TRUE(options.quiet);
+    EXPECT_EQ(options.types, (std::set<std::uint8_t>{17}));
+    EXPECT_EQ(options.handles, (std::set<std::uint16_t>{0x1A, 0xFFFF}));
+}
+
+TEST(FirmwareOptions, AHandleThatIsNoWordIsAnError) {
+    for (const std::string_view handle : {"65536", "0x10000", "-1", "0x", "1A", "x", "0x-1"}) {
+        EXPECT_THROW(static_cast<void>(ParseOptions(Words{"firmware", "--handle", handle})), UsageError)
+            << handle;
+    }
+}
+
+TEST(FirmwareOptions, AreNotThoseOfOtherCommands) {
+    EXPECT_THROW(static_cast<void>(ParseOptions(Words{"structures", "--handle", "1"})), UsageError);
+    EXPECT_THROW(static_cast<void>(ParseOptions(Words{"structures", "--quiet"})), UsageError);
+    EXPECT_THROW(static_cast<void>(ParseOptions(Words{"firmware", "--force"})), UsageError);
+}
+
+TEST(FirmwareOptions, StandInTheUsageText) {
+    for (const std::string_view word : {"firmware", "--handle H", "--quiet"}) {
+        EXPECT_NE(Inspect::UsageText().find(word), std::string_view::npos) << word;
+    }
+}
+
+}  // namespace
+}  // namespace SMBIOS::Tests
