@@ -367,8 +367,8 @@ const FieldCase kMemoryCases[] = {
      100,
      {{0x62, 2, 0x0021}},
      "/rcdRevisionNumber",
-     R"json({"value": 33, "text": "2.1"})json",
-     "\tRCD Revision Number: 2.1\n"},
+     R"json({"value": 33})json",
+     "\tRCD Revision Number: 0x0021\n"},
 
     {"errorType",
      18,

@@ -19,7 +19,7 @@ constexpr std::uint64_t kUnknownWord = 0x8000;
 
 /// The words a number stands for, as a value without that number.
 std::optional<Value> InsteadOf(std::uint64_t number, WordList words) {
-    if (const auto text = Common::FindText(words, number)) {
+    if (const auto text = words.Find(number)) {
         return Nothing(*text);
     }
     return std::nullopt;
@@ -43,31 +43,28 @@ Value ReadString(const Reading& reading) {
 Value ReadNumber(const Reading& reading) {
     const std::uint64_t number = reading.Raw();
     const Form& form = reading.row.form;
-    Value value = InsteadOf(number, form.words)
-                      .value_or(Number(number, std::to_string(number) + std::string(form.mark)));
-    return value;
+    return InsteadOf(number, form.words)
+        .value_or(Number(number, std::to_string(number) + std::string(form.mark)));
 }
 
 Value ReadFraction(const Reading& reading) {
     const std::uint64_t number = reading.Raw();
     const Form& form = reading.row.form;
-    Value value = Nothing(kUnknown);
-    if (number != kUnknownWord) {
-        const std::string text = DecimalText(static_cast<std::int64_t>(number), form.digits);
-        value = Number(number, text + std::string(form.mark));
+    if (number == kUnknownWord) {
+        return Nothing(kUnknown);
     }
-    return value;
+    const std::string text = DecimalText(static_cast<std::int64_t>(number), form.digits);
+    return Number(number, text + std::string(form.mark));
 }
 
 Value ReadSigned(const Reading& reading) {
     const std::uint64_t raw = reading.Raw();
     const Form& form = reading.row.form;
-    Value value = Nothing(kUnknown);
-    if (raw != kUnknownWord) {
-        const auto number = static_cast<std::int16_t>(raw);
-        value = SignedNumber(number, DecimalText(number, form.digits) + std::string(form.mark));
+    if (raw == kUnknownWord) {
+        return Nothing(kUnknown);
     }
-    return value;
+    const auto number = static_cast<std::int16_t>(raw);
+    return SignedNumber(number, DecimalText(number, form.digits) + std::string(form.mark));
 }
 
 Value ReadHex(const Reading& reading) {
@@ -87,7 +84,7 @@ Value ReadCode(const Reading& reading) {
 
 Value ReadCodeOrOem(const Reading& reading) {
     const std::uint64_t code = reading.Raw();
-    const auto words = Common::FindText(reading.row.form.words, code);
+    const auto words = reading.row.form.words.Find(code);
     return Words(code, std::string(words.value_or(code < kFirstOemCode ? kOutOfSpec : "OEM-specific")));
 }
 
@@ -145,9 +142,8 @@ Value ReadHandleList(const Reading& reading) {
 
 Value ReadByteSize(const Reading& reading) {
     const std::uint64_t bytes = reading.Raw();
-    Value value = bytes == 0 ? Words(bytes, "None")
-                             : InsteadOf(bytes, reading.row.form.words).value_or(SizeInBytes(bytes));
-    return value;
+    return bytes == 0 ? Words(bytes, "None")
+                      : InsteadOf(bytes, reading.row.form.words).value_or(SizeInBytes(bytes));
 }
 
 Value ReadRelease(const Reading& reading) {
@@ -180,11 +176,11 @@ Value StringNumber(const Structure& structure, std::size_t number) {
 }
 
 std::string WordsFor(WordList words, std::uint64_t code) {
-    return std::string(Common::FindText(words, code).value_or(kOutOfSpec));
+    return std::string(words.Find(code).value_or(kOutOfSpec));
 }
 
 std::string TypeWords(std::uint8_t type) {
-    return type < kFirstOemCode ? WordsFor(kTypeWords.Rows(), type) : "OEM-specific";
+    return type < kFirstOemCode ? WordsFor(kTypeWords, type) : "OEM-specific";
 }
 
 std::vector<Item> NamesOfBits(WordList names, std::uint64_t bits) {

@@ -19,10 +19,10 @@ constexpr FieldRow kBaseboardRows[] = {
     {0x06, kByte, "version", "Version", String()},
     {0x07, kByte, "serialNumber", "Serial Number", String()},
     {0x08, kByte, "assetTag", "Asset Tag", String()},
-    {0x09, kByte, "featureFlags", "Features", Flags(kBoardFeatures.Rows())},
+    {0x09, kByte, "featureFlags", "Features", Flags(kBoardFeatures)},
     {0x0A, kByte, "locationInChassis", "Location In Chassis", String()},
     {0x0B, kWord, "chassisHandle", "Chassis Handle", Handle()},
-    {0x0D, kByte, "boardType", "Type", Code(kBoardTypes.Rows())},
+    {0x0D, kByte, "boardType", "Type", Code(kBoardTypes)},
     {0x0E, kByte, "containedObjectHandles", "Contained Object Handles", HandleList()},
 };
 
@@ -33,7 +33,7 @@ std::string ElementText(const Structures::FormattedArea& area, std::size_t at) {
     constexpr std::uint8_t kIsStructureType = 0x80;
     const std::uint8_t type = area.Byte(at);
     const std::string name =
-        (type & kIsStructureType) != 0 ? TypeWords(type & 0x7F) : WordsFor(kBoardTypes.Rows(), type);
+        (type & kIsStructureType) != 0 ? TypeWords(type & 0x7F) : WordsFor(kBoardTypes, type);
     const std::string least = std::to_string(area.Byte(at + 1));
     const std::string most = std::to_string(area.Byte(at + 2));
     return name + " (" + (least == most ? least : least + "-" + most) + ")";
@@ -62,18 +62,18 @@ Value ReadContainedElements(const Reading& reading) {
 
 constexpr FieldRow kChassisRows[] = {
     {0x04, kByte, "manufacturer", "Manufacturer", String()},
-    {0x05, kByte, "type", "Type", CodeIn(0, 7, kChassisTypes.Rows())},
-    {0x05, kByte, "lock", "Lock", CodeIn(7, 1, kPresence.Rows())},
+    {0x05, kByte, "type", "Type", CodeIn(0, 7, kChassisTypes)},
+    {0x05, kByte, "lock", "Lock", CodeIn(7, 1, kPresence)},
     {0x06, kByte, "version", "Version", String()},
     {0x07, kByte, "serialNumber", "Serial Number", String()},
     {0x08, kByte, "assetTagNumber", "Asset Tag", String()},
-    {0x09, kByte, "bootUpState", "Boot-up State", Code(kChassisStates.Rows())},
-    {0x0A, kByte, "powerSupplyState", "Power Supply State", Code(kChassisStates.Rows())},
-    {0x0B, kByte, "thermalState", "Thermal State", Code(kChassisStates.Rows())},
-    {0x0C, kByte, "securityStatus", "Security Status", Code(kSecurityStates.Rows())},
+    {0x09, kByte, "bootUpState", "Boot-up State", Code(kChassisStates)},
+    {0x0A, kByte, "powerSupplyState", "Power Supply State", Code(kChassisStates)},
+    {0x0B, kByte, "thermalState", "Thermal State", Code(kChassisStates)},
+    {0x0C, kByte, "securityStatus", "Security Status", Code(kSecurityStates)},
     {0x0D, kDword, "oemDefined", "OEM Information", Hex()},
-    {0x11, kByte, "height", "Height", Measure("U", " U", kUnspecifiedIfZero.Rows())},
-    {0x12, kByte, "numberOfPowerCords", "Number Of Power Cords", Count(kUnspecifiedIfZero.Rows())},
+    {0x11, kByte, "height", "Height", Measure("U", " U", kUnspecifiedIfZero)},
+    {0x12, kByte, "numberOfPowerCords", "Number Of Power Cords", Count(kUnspecifiedIfZero)},
     {0x13, kByte, "containedElements", "Contained Elements", ListBy(ReadContainedElements)},
     {0x14, kByte, "containedElementRecordLength", "", Measure("byte", " bytes")},
 };
@@ -96,17 +96,17 @@ void VisitBehindElements(RowVisitor& visitor) {
 
 constexpr FieldRow kPortConnectorRows[] = {
     {0x04, kByte, "internalReferenceDesignator", "Internal Reference Designator", String()},
-    {0x05, kByte, "internalConnectorType", "Internal Connector Type", Code(kConnectorTypes.Rows())},
+    {0x05, kByte, "internalConnectorType", "Internal Connector Type", Code(kConnectorTypes)},
     {0x06, kByte, "externalReferenceDesignator", "External Reference Designator", String()},
-    {0x07, kByte, "externalConnectorType", "External Connector Type", Code(kConnectorTypes.Rows())},
-    {0x08, kByte, "portType", "Port Type", Code(kPortTypes.Rows())},
+    {0x07, kByte, "externalConnectorType", "External Connector Type", Code(kConnectorTypes)},
+    {0x08, kByte, "portType", "Port Type", Code(kPortTypes)},
 };
 
 // Type 10: as many devices of two bytes as its length has room for
 
 constexpr FieldRow kOnBoardDeviceRows[] = {
-    {0x00, kByte, "deviceType", "Type", CodeIn(0, 7, kOnBoardDeviceTypes.Rows())},
-    {0x00, kByte, "deviceStatus", "Status", CodeIn(7, 1, kOnBoardDeviceStates.Rows())},
+    {0x00, kByte, "deviceType", "Type", CodeIn(0, 7, kOnBoardDeviceTypes)},
+    {0x00, kByte, "deviceStatus", "Status", CodeIn(7, 1, kOnBoardDeviceStates)},
     {0x01, kByte, "description", "Description", String()},
 };
 constexpr GroupTable kOnBoardDeviceGroups[] = {
@@ -124,8 +124,8 @@ void VisitOnBoardDevices(RowVisitor& visitor) {
 // Type 21
 
 constexpr FieldRow kPointingDeviceRows[] = {
-    {0x04, kByte, "type", "Type", Code(kPointingDeviceTypes.Rows())},
-    {0x05, kByte, "interface", "Interface", Code(kPointingDeviceInterfaces.Rows())},
+    {0x04, kByte, "type", "Type", Code(kPointingDeviceTypes)},
+    {0x05, kByte, "interface", "Interface", Code(kPointingDeviceInterfaces)},
     {0x06, kByte, "numberOfButtons", "Buttons", Count()},
 };
 
@@ -133,8 +133,8 @@ constexpr FieldRow kPointingDeviceRows[] = {
 
 constexpr FieldRow kOnboardDevicesExtendedRows[] = {
     {0x04, kByte, "referenceDesignation", "Reference Designation", String()},
-    {0x05, kByte, "deviceType", "Type", CodeIn(0, 7, kOnBoardDeviceTypes.Rows())},
-    {0x05, kByte, "deviceStatus", "Status", CodeIn(7, 1, kOnBoardDeviceStates.Rows())},
+    {0x05, kByte, "deviceType", "Type", CodeIn(0, 7, kOnBoardDeviceTypes)},
+    {0x05, kByte, "deviceStatus", "Status", CodeIn(7, 1, kOnBoardDeviceStates)},
     {0x06, kByte, "deviceTypeInstance", "Type Instance", Count()},
     {0x07, kDword, "busAddress", "Bus Address", BusAddress()},
 };

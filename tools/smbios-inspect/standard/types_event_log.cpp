@@ -49,18 +49,18 @@ constexpr FieldRow kEventLogRows[] = {
     {0x06, kWord, "logHeaderStartOffset", "Header Start Offset", Hex()},
     {0x08, kWord, "logHeaderLength", "Header Length", NumberBy(ReadHeaderLength, "byte")},
     {0x08, kWord, "logDataStartOffset", "Data Start Offset", Hex()},
-    {0x0A, kByte, "accessMethod", "Access Method", CodeOrOem(kLogAccessMethods.Rows())},
+    {0x0A, kByte, "accessMethod", "Access Method", CodeOrOem(kLogAccessMethods)},
     {0x0B, kByte, "logStatus", "Status", CodeBy(ReadLogStatus)},
     {0x0C, kDword, "logChangeToken", "Change Token", Hex()},
     {0x10, kDword, "accessMethodAddress", "Access Address", NumberBy(ReadAccessAddress)},
-    {0x14, kByte, "logHeaderFormat", "Header Format", CodeOrOem(kLogHeaderFormats.Rows())},
+    {0x14, kByte, "logHeaderFormat", "Header Format", CodeOrOem(kLogHeaderFormats)},
     {0x15, kByte, "numberOfSupportedLogTypeDescriptors", "Supported Log Type Descriptors", Count()},
     {0x16, kByte, "lengthOfEachLogTypeDescriptor", "", Measure("byte", " bytes")},
 };
 
 constexpr FieldRow kDescriptorRows[] = {
-    {0x00, kByte, "logType", "Descriptor #", CodeOrOem(kLogTypes.Rows())},
-    {0x01, kByte, "dataFormatType", "Data Format #", CodeOrOem(kLogDataFormats.Rows())},
+    {0x00, kByte, "logType", "Descriptor #", CodeOrOem(kLogTypes)},
+    {0x01, kByte, "dataFormatType", "Data Format #", CodeOrOem(kLogDataFormats)},
 };
 
 constexpr GroupTable kEventLogGroups[] = {

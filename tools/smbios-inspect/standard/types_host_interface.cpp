@@ -20,7 +20,7 @@ constexpr std::size_t kData = 0x06;
 Value ReadHostInterface(const Reading& reading) {
     constexpr std::uint64_t kOem = 0xF0;
     const std::uint64_t type = reading.Raw();
-    const auto words = Common::FindText(kHostInterfaces.Rows(), type);
+    const auto words = kHostInterfaces.Find(type);
     if (type == kOem) {
         return Words(type, "OEM");
     }
@@ -29,7 +29,7 @@ Value ReadHostInterface(const Reading& reading) {
 
 Value ReadHostDevice(const Reading& reading) {
     const std::uint64_t type = reading.Raw();
-    return Words(type, type >= 0x80 ? "OEM" : WordsFor(kHostDevices.Rows(), type));
+    return Words(type, type >= 0x80 ? "OEM" : WordsFor(kHostDevices, type));
 }
 
 Value ReadMacAddress(const Reading& reading) {
@@ -97,7 +97,7 @@ std::span<const FieldRow> RowsOfDevice(std::uint8_t type) {
 Value ReadProtocol(const Reading& reading) {
     constexpr std::uint64_t kOem = 0xF0;
     const std::uint64_t id = reading.Raw();
-    const std::string words = id == kOem ? "OEM" : WordsFor(kHostProtocols.Rows(), id);
+    const std::string words = id == kOem ? "OEM" : WordsFor(kHostProtocols, id);
     return Words(id, HexadecimalText(std::array{static_cast<std::uint8_t>(id)}) + " (" + words + ")");
 }
 
@@ -138,8 +138,8 @@ Value ReadHostname(const Reading& reading) {
 
 constexpr FieldRow kRedfishHostRows[] = {
     {0x00, 16, "serviceUuid", "Service UUID", Uuid()},
-    {0x10, kByte, "hostIpAssignmentType", "Host IP Assignment Type", Code(kIpAssignments.Rows())},
-    {0x11, kByte, "hostIpAddressFormat", "Host IP Address Format", Code(kIpFormats.Rows())},
+    {0x10, kByte, "hostIpAssignmentType", "Host IP Assignment Type", Code(kIpAssignments)},
+    {0x11, kByte, "hostIpAddressFormat", "Host IP Address Format", Code(kIpFormats)},
 };
 constexpr FieldRow kRedfishHostIpv4Rows[] = {
     {0x12, 16, "hostIpAddress", "IPv4 Address", TextBy(ReadIpv4)},
@@ -150,16 +150,8 @@ constexpr FieldRow kRedfishHostIpv6Rows[] = {
     {0x22, 16, "hostIpMask", "IPv6 Mask", TextBy(ReadIpv6)},
 };
 constexpr FieldRow kRedfishServiceRows[] = {
-    {0x32,
-     kByte,
-     "redfishServiceIpDiscoveryType",
-     "Redfish Service IP Discovery Type",
-     Code(kIpAssignments.Rows())},
-    {0x33,
-     kByte,
-     "redfishServiceIpAddressFormat",
-     "Redfish Service IP Address Format",
-     Code(kIpFormats.Rows())},
+    {0x32, kByte, "redfishServiceIpDiscoveryType", "Redfish Service IP Discovery Type", Code(kIpAssignments)},
+    {0x33, kByte, "redfishServiceIpAddressFormat", "Redfish Service IP Address Format", Code(kIpFormats)},
 };
 constexpr FieldRow kRedfishServiceIpv4Rows[] = {
     {0x34, 16, "redfishServiceIpAddress", "IPv4 Redfish Service Address", TextBy(ReadIpv4)},

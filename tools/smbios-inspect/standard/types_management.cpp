@@ -15,9 +15,9 @@ namespace {
 
 constexpr FieldRow kManagementDeviceRows[] = {
     {0x04, kByte, "description", "Description", String()},
-    {0x05, kByte, "type", "Type", Code(kManagementDeviceTypes.Rows())},
+    {0x05, kByte, "type", "Type", Code(kManagementDeviceTypes)},
     {0x06, kDword, "address", "Address", Hex()},
-    {0x0A, kByte, "addressType", "Address Type", Code(kManagementAddressTypes.Rows())},
+    {0x0A, kByte, "addressType", "Address Type", Code(kManagementAddressTypes)},
 };
 
 // Type 35
@@ -26,7 +26,7 @@ constexpr FieldRow kManagementDeviceComponentRows[] = {
     {0x04, kByte, "description", "Description", String()},
     {0x05, kWord, "managementDeviceHandle", "Management Device Handle", Handle()},
     {0x07, kWord, "componentHandle", "Component Handle", Handle()},
-    {0x09, kWord, "thresholdHandle", "Threshold Handle", Handle(kNotProvidedIfWordFull.Rows())},
+    {0x09, kWord, "thresholdHandle", "Threshold Handle", Handle(kNotProvidedIfWordFull)},
 };
 
 // Type 36: in the unit of the probe
@@ -78,25 +78,25 @@ constexpr auto kNoStorageDevice = WordsOf({{0xFF, "Not Present"}});
 constexpr auto kNoInterrupt = WordsOf({{0x00, "Not Specified"}});
 constexpr Form kPolarity = {.read = ReadInterruptCode,
                             .kind = ValueKind::code,
-                            .words = kInterruptPolarities.Rows(),
+                            .words = kInterruptPolarities,
                             .lowBit = 1,
                             .bitCount = 1};
 constexpr Form kTrigger = {.read = ReadInterruptCode,
                            .kind = ValueKind::code,
-                           .words = kInterruptTriggers.Rows(),
+                           .words = kInterruptTriggers,
                            .lowBit = 0,
                            .bitCount = 1};
 
 constexpr FieldRow kIpmiDeviceRows[] = {
-    {0x04, kByte, "interfaceType", "Interface Type", Code(kIpmiInterfaces.Rows())},
+    {0x04, kByte, "interfaceType", "Interface Type", Code(kIpmiInterfaces)},
     {0x05, kByte, "ipmiSpecRevision", "Spec Version", TextBy(ReadHalfBytesRelease)},
     {0x06, kByte, "i2cTargetAddress", "I2C Slave Address", NumberBy(ReadSlaveAddress)},
-    {0x07, kByte, "nvStorageDeviceAddress", "NV Storage Device", Count(kNoStorageDevice.Rows())},
+    {0x07, kByte, "nvStorageDeviceAddress", "NV Storage Device", Count(kNoStorageDevice)},
     {0x08, kQword, "baseAddress", "Base Address", NumberBy(ReadBaseAddress)},
-    {0x10, kByte, "registerSpacing", "Register Spacing", CodeIn(6, 2, kRegisterSpacings.Rows())},
+    {0x10, kByte, "registerSpacing", "Register Spacing", CodeIn(6, 2, kRegisterSpacings)},
     {0x10, kByte, "interruptPolarity", "Interrupt Polarity", kPolarity},
     {0x10, kByte, "interruptTriggerMode", "Interrupt Trigger Mode", kTrigger},
-    {0x11, kByte, "interruptNumber", "Interrupt Number", Count(kNoInterrupt.Rows())},
+    {0x11, kByte, "interruptNumber", "Interrupt Number", Count(kNoInterrupt)},
 };
 
 // Type 40
@@ -173,7 +173,7 @@ constexpr FieldRow kTpmDeviceRows[] = {
     {0x0A, kDword, "firmwareVersion1", "Firmware Revision", TextBy(ReadTpmFirmware)},
     {0x0E, kDword, "firmwareVersion2", "", Hex()},
     {0x12, kByte, "description", "Description", String()},
-    {0x13, kQword, "characteristics", "Characteristics", Flags(kTpmCharacteristics.Rows())},
+    {0x13, kQword, "characteristics", "Characteristics", Flags(kTpmCharacteristics)},
     {0x1B, kDword, "oemDefined", "OEM-specific Information", Hex()},
 };
 
@@ -192,15 +192,15 @@ constexpr auto kUnknownImageSize = WordsOf({{0xFFFFFFFFFFFFFFFF, "Unknown"}});
 constexpr FieldRow kFirmwareInventoryRows[] = {
     {0x04, kByte, "firmwareComponentName", "Firmware Component Name", String()},
     {0x05, kByte, "firmwareVersion", "Firmware Version", String()},
-    {0x06, kByte, "versionFormat", "Version Format", CodeOrOem(kFirmwareVersionFormats.Rows())},
+    {0x06, kByte, "versionFormat", "Version Format", CodeOrOem(kFirmwareVersionFormats)},
     {0x07, kByte, "firmwareId", "Firmware ID", String()},
-    {0x08, kByte, "firmwareIdFormat", "Firmware ID Format", CodeOrOem(kFirmwareIdFormats.Rows())},
+    {0x08, kByte, "firmwareIdFormat", "Firmware ID Format", CodeOrOem(kFirmwareIdFormats)},
     {0x09, kByte, "releaseDate", "Release Date", String()},
     {0x0A, kByte, "manufacturer", "Manufacturer", String()},
     {0x0B, kByte, "lowestSupportedFirmwareVersion", "Lowest Supported Firmware Version", String()},
-    {0x0C, kQword, "imageSize", "Image Size", ByteSize(kUnknownImageSize.Rows())},
+    {0x0C, kQword, "imageSize", "Image Size", ByteSize(kUnknownImageSize)},
     {0x14, kWord, "characteristics", "Characteristics", FlagsBy(ReadInventoryCharacteristics)},
-    {0x16, kByte, "state", "State", Code(kFirmwareStates.Rows())},
+    {0x16, kByte, "state", "State", Code(kFirmwareStates)},
     {0x17, kByte, "associatedComponents", "Associated Components", HandleList()},
 };
 
@@ -214,7 +214,7 @@ Value ReadStringProperty(const Reading& reading) {
     if (id >= kFirstVendor) {
         return Words(id, id < kFirstOem ? "BIOS vendor-specific" : "OEM-specific");
     }
-    return Words(id, WordsFor(kStringProperties.Rows(), id));
+    return Words(id, WordsFor(kStringProperties, id));
 }
 
 constexpr FieldRow kStringPropertyRows[] = {

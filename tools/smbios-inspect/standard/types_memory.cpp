@@ -23,11 +23,11 @@ Value ReadMaximumCapacity(const Reading& reading) {
 }
 
 constexpr FieldRow kMemoryArrayRows[] = {
-    {0x04, kByte, "location", "Location", Code(kArrayLocations.Rows())},
-    {0x05, kByte, "use", "Use", Code(kArrayUses.Rows())},
-    {0x06, kByte, "memoryErrorCorrection", "Error Correction Type", Code(kArrayErrorCorrections.Rows())},
+    {0x04, kByte, "location", "Location", Code(kArrayLocations)},
+    {0x05, kByte, "use", "Use", Code(kArrayUses)},
+    {0x06, kByte, "memoryErrorCorrection", "Error Correction Type", Code(kArrayErrorCorrections)},
     {0x07, kDword, "maximumCapacity", "Maximum Capacity", NumberBy(ReadMaximumCapacity, "byte")},
-    {0x0B, kWord, "memoryErrorInformationHandle", "Error Information Handle", Handle(kErrorHandles.Rows())},
+    {0x0B, kWord, "memoryErrorInformationHandle", "Error Information Handle", Handle(kErrorHandles)},
     {0x0D, kWord, "numberOfMemoryDevices", "Number Of Devices", Count()},
     {0x0F, kQword, "extendedMaximumCapacity", "", ByteSize()},
 };
@@ -65,8 +65,7 @@ Value ReadDeviceSpeed(const Reading& reading) {
                     ? reading.structure.Area().Dword(WideOffset) & 0x7FFFFFFFULL
                     : 0;
     }
-    Value value = speed == 0 ? Nothing(kUnknown) : Number(speed, std::to_string(speed) + " MT/s");
-    return value;
+    return speed == 0 ? Nothing(kUnknown) : Number(speed, std::to_string(speed) + " MT/s");
 }
 
 /// "1.2 V": with as many digits behind the point as it takes, and at least one.
@@ -80,8 +79,7 @@ std::string VoltsText(std::uint64_t millivolts) {
 
 Value ReadMillivolts(const Reading& reading) {
     const std::uint64_t millivolts = reading.Raw();
-    Value value = millivolts == 0 ? Nothing(kUnknown) : Number(millivolts, VoltsText(millivolts) + " V");
-    return value;
+    return millivolts == 0 ? Nothing(kUnknown) : Number(millivolts, VoltsText(millivolts) + " V");
 }
 
 /// A JEDEC number: how many continuation codes, and the code in its bank.
@@ -93,16 +91,8 @@ Value ReadManufacturerId(const Reading& reading) {
     return Words(id, "Bank " + std::to_string((id & 0x7F) + 1) + ", Hex " + HexText(id >> 8, 2));
 }
 
-Value ReadDeviceRevision(const Reading& reading) {
-    constexpr std::uint64_t kUnknownRevision = 0xFF00;
-    const std::uint64_t revision = reading.Raw();
-    if (revision == kUnknownRevision) {
-        return Nothing(kUnknown);
-    }
-    return Words(revision, std::to_string(revision >> 4 & 0x0F) + "." + std::to_string(revision & 0x0F));
-}
-
-constexpr WordList kZero = kUnknownIfZero.Rows();
+constexpr auto kUnknownRevision = WordsOf({{0xFF00, "Unknown"}});
+constexpr WordList kZero = kUnknownIfZero;
 
 /// The lower half of the attributes.
 constexpr Form kRank = {
@@ -110,16 +100,16 @@ constexpr Form kRank = {
 
 constexpr FieldRow kMemoryDeviceRows[] = {
     {0x04, kWord, "physicalMemoryArrayHandle", "Array Handle", Handle()},
-    {0x06, kWord, "memoryErrorInformationHandle", "Error Information Handle", Handle(kErrorHandles.Rows())},
-    {0x08, kWord, "totalWidth", "Total Width", Measure("bit", " bits", kUnknownWidths.Rows())},
-    {0x0A, kWord, "dataWidth", "Data Width", Measure("bit", " bits", kUnknownWidths.Rows())},
+    {0x06, kWord, "memoryErrorInformationHandle", "Error Information Handle", Handle(kErrorHandles)},
+    {0x08, kWord, "totalWidth", "Total Width", Measure("bit", " bits", kUnknownWidths)},
+    {0x0A, kWord, "dataWidth", "Data Width", Measure("bit", " bits", kUnknownWidths)},
     {0x0C, kWord, "size", "Size", NumberBy(ReadDeviceSize, "byte")},
-    {0x0E, kByte, "formFactor", "Form Factor", Code(kFormFactors.Rows())},
-    {0x0F, kByte, "deviceSet", "Set", Count(kDeviceSets.Rows())},
+    {0x0E, kByte, "formFactor", "Form Factor", Code(kFormFactors)},
+    {0x0F, kByte, "deviceSet", "Set", Count(kDeviceSets)},
     {0x10, kByte, "deviceLocator", "Locator", String()},
     {0x11, kByte, "bankLocator", "Bank Locator", String()},
-    {0x12, kByte, "memoryType", "Type", Code(kMemoryTypes.Rows())},
-    {0x13, kWord, "typeDetail", "Type Detail", FlagsInLine(kTypeDetails.Rows())},
+    {0x12, kByte, "memoryType", "Type", Code(kMemoryTypes)},
+    {0x13, kWord, "typeDetail", "Type Detail", FlagsInLine(kTypeDetails)},
     {0x15, kWord, "speed", "Speed", NumberBy(ReadDeviceSpeed<0x54>, "MT/s")},
     {0x17, kByte, "manufacturer", "Manufacturer", String()},
     {0x18, kByte, "serialNumber", "Serial Number", String()},
@@ -135,12 +125,12 @@ constexpr FieldRow kMemoryDeviceRows[] = {
     {0x22, kWord, "minimumVoltage", "Minimum Voltage", NumberBy(ReadMillivolts, "mV")},
     {0x24, kWord, "maximumVoltage", "Maximum Voltage", NumberBy(ReadMillivolts, "mV")},
     {0x26, kWord, "configuredVoltage", "Configured Voltage", NumberBy(ReadMillivolts, "mV")},
-    {0x28, kByte, "memoryTechnology", "Memory Technology", Code(kMemoryTechnologies.Rows())},
+    {0x28, kByte, "memoryTechnology", "Memory Technology", Code(kMemoryTechnologies)},
     {0x29,
      kWord,
      "memoryOperatingModeCapability",
      "Memory Operating Mode Capability",
-     FlagsInLine(kOperatingModes.Rows())},
+     FlagsInLine(kOperatingModes)},
     {0x2B, kByte, "firmwareVersion", "Firmware Version", String()},
     {0x2C, kWord, "moduleManufacturerId", "Module Manufacturer ID", CodeBy(ReadManufacturerId)},
     {0x2E, kWord, "moduleProductId", "Module Product ID", Hex(kZero)},
@@ -150,27 +140,27 @@ constexpr FieldRow kMemoryDeviceRows[] = {
      "Memory Subsystem Controller Manufacturer ID",
      CodeBy(ReadManufacturerId)},
     {0x32, kWord, "memorySubsystemControllerProductId", "Memory Subsystem Controller Product ID", Hex(kZero)},
-    {0x34, kQword, "nonVolatileSize", "Non-Volatile Size", ByteSize(kPortionSizes.Rows())},
-    {0x3C, kQword, "volatileSize", "Volatile Size", ByteSize(kPortionSizes.Rows())},
-    {0x44, kQword, "cacheSize", "Cache Size", ByteSize(kPortionSizes.Rows())},
-    {0x4C, kQword, "logicalSize", "Logical Size", ByteSize(kPortionSizes.Rows())},
+    {0x34, kQword, "nonVolatileSize", "Non-Volatile Size", ByteSize(kPortionSizes)},
+    {0x3C, kQword, "volatileSize", "Volatile Size", ByteSize(kPortionSizes)},
+    {0x44, kQword, "cacheSize", "Cache Size", ByteSize(kPortionSizes)},
+    {0x4C, kQword, "logicalSize", "Logical Size", ByteSize(kPortionSizes)},
     {0x54, kDword, "extendedSpeed", "", Measure("MT/s", " MT/s", kZero)},
     {0x58, kDword, "extendedConfiguredMemorySpeed", "", Measure("MT/s", " MT/s", kZero)},
     {0x5C, kWord, "pmic0ManufacturerId", "PMIC0 Manufacturer ID", CodeBy(ReadManufacturerId)},
-    {0x5E, kWord, "pmic0RevisionNumber", "PMIC0 Revision Number", CodeBy(ReadDeviceRevision)},
+    {0x5E, kWord, "pmic0RevisionNumber", "PMIC0 Revision Number", Hex(kUnknownRevision)},
     {0x60, kWord, "rcdManufacturerId", "RCD Manufacturer ID", CodeBy(ReadManufacturerId)},
-    {0x62, kWord, "rcdRevisionNumber", "RCD Revision Number", CodeBy(ReadDeviceRevision)},
+    {0x62, kWord, "rcdRevisionNumber", "RCD Revision Number", Hex(kUnknownRevision)},
 };
 
 // Types 18 and 33
 
-constexpr WordList kUnknown32 = kUnknownAddress32.Rows();
-constexpr WordList kUnknown64 = kUnknownAddress64.Rows();
+constexpr WordList kUnknown32 = kUnknownAddress32;
+constexpr WordList kUnknown64 = kUnknownAddress64;
 
 constexpr FieldRow kMemoryError32Rows[] = {
-    {0x04, kByte, "errorType", "Type", Code(kErrorTypes.Rows())},
-    {0x05, kByte, "errorGranularity", "Granularity", Code(kErrorGranularities.Rows())},
-    {0x06, kByte, "errorOperation", "Operation", Code(kErrorOperations.Rows())},
+    {0x04, kByte, "errorType", "Type", Code(kErrorTypes)},
+    {0x05, kByte, "errorGranularity", "Granularity", Code(kErrorGranularities)},
+    {0x06, kByte, "errorOperation", "Operation", Code(kErrorOperations)},
     {0x07, kDword, "vendorSyndrome", "Vendor Syndrome", Hex(kZero)},
     {0x0B, kDword, "memoryArrayErrorAddress", "Memory Array Address", Hex(kUnknown32)},
     {0x0F, kDword, "deviceErrorAddress", "Device Address", Hex(kUnknown32)},
@@ -178,9 +168,9 @@ constexpr FieldRow kMemoryError32Rows[] = {
 };
 
 constexpr FieldRow kMemoryError64Rows[] = {
-    {0x04, kByte, "errorType", "Type", Code(kErrorTypes.Rows())},
-    {0x05, kByte, "errorGranularity", "Granularity", Code(kErrorGranularities.Rows())},
-    {0x06, kByte, "errorOperation", "Operation", Code(kErrorOperations.Rows())},
+    {0x04, kByte, "errorType", "Type", Code(kErrorTypes)},
+    {0x05, kByte, "errorGranularity", "Granularity", Code(kErrorGranularities)},
+    {0x06, kByte, "errorOperation", "Operation", Code(kErrorOperations)},
     {0x07, kDword, "vendorSyndrome", "Vendor Syndrome", Hex(kZero)},
     {0x0B, kQword, "memoryArrayErrorAddress", "Memory Array Address", Hex(kUnknown64)},
     {0x13, kQword, "deviceErrorAddress", "Device Address", Hex(kUnknown64)},
@@ -248,9 +238,9 @@ constexpr FieldRow kMemoryDeviceMappedAddressRows[] = {
     {0x08, kDword, "rangeSize", "Range Size", NumberBy(ReadRangeSize<0x13>, "byte")},
     {0x0C, kWord, "memoryDeviceHandle", "Physical Device Handle", Handle()},
     {0x0E, kWord, "memoryArrayMappedAddressHandle", "Memory Array Mapped Address Handle", Handle()},
-    {0x10, kByte, "partitionRowPosition", "Partition Row Position", Count(kRowPositions.Rows())},
-    {0x11, kByte, "interleavePosition", "Interleave Position", Count(kInterleavePositions.Rows())},
-    {0x12, kByte, "interleavedDataDepth", "Interleaved Data Depth", Count(kUnknownIfByteFull.Rows())},
+    {0x10, kByte, "partitionRowPosition", "Partition Row Position", Count(kRowPositions)},
+    {0x11, kByte, "interleavePosition", "Interleave Position", Count(kInterleavePositions)},
+    {0x12, kByte, "interleavedDataDepth", "Interleaved Data Depth", Count(kUnknownIfByteFull)},
     {0x13, kQword, "extendedStartingAddress", "", Hex()},
     {0x1B, kQword, "extendedEndingAddress", "", Hex()},
 };
@@ -258,7 +248,7 @@ constexpr FieldRow kMemoryDeviceMappedAddressRows[] = {
 // Type 37
 
 constexpr FieldRow kMemoryChannelRows[] = {
-    {0x04, kByte, "channelType", "Type", Code(kChannelTypes.Rows())},
+    {0x04, kByte, "channelType", "Type", Code(kChannelTypes)},
     {0x05, kByte, "maximumChannelLoad", "Maximal Load", Count()},
     {0x06, kByte, "memoryDeviceCount", "Devices", Count()},
 };

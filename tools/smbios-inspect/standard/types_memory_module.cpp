@@ -34,26 +34,26 @@ Value ReadMaximumTotalSize(const Reading& reading) {
 
 Value ReadModuleVoltage(const Reading& reading) {
     const std::uint64_t bits = reading.Raw();
-    const std::string voltages = InOneLine(NamesOfBits(kModuleVoltages.Rows(), bits));
+    const std::string voltages = InOneLine(NamesOfBits(kModuleVoltages, bits));
     return voltages.empty() ? Nothing(kUnknown) : Words(bits, voltages);
 }
 
 constexpr FieldRow kMemoryControllerRows[] = {
-    {0x04, kByte, "errorDetectingMethod", "Error Detecting Method", Code(kErrorDetectingMethods.Rows())},
+    {0x04, kByte, "errorDetectingMethod", "Error Detecting Method", Code(kErrorDetectingMethods)},
     {0x05,
      kByte,
      "errorCorrectingCapability",
      "Error Correcting Capabilities",
-     Flags(kErrorCorrectingCapabilities.Rows())},
-    {0x06, kByte, "supportedInterleave", "Supported Interleave", Code(kInterleaves.Rows())},
-    {0x07, kByte, "currentInterleave", "Current Interleave", Code(kInterleaves.Rows())},
+     Flags(kErrorCorrectingCapabilities)},
+    {0x06, kByte, "supportedInterleave", "Supported Interleave", Code(kInterleaves)},
+    {0x07, kByte, "currentInterleave", "Current Interleave", Code(kInterleaves)},
     {0x08,
      kByte,
      "maximumMemoryModuleSize",
      "Maximum Memory Module Size",
      NumberBy(ReadMaximumModuleSize, "byte")},
-    {0x09, kWord, "supportedSpeeds", "Supported Speeds", Flags(kModuleSpeeds.Rows())},
-    {0x0B, kWord, "supportedMemoryTypes", "Supported Memory Types", Flags(kModuleTypes.Rows())},
+    {0x09, kWord, "supportedSpeeds", "Supported Speeds", Flags(kModuleSpeeds)},
+    {0x0B, kWord, "supportedMemoryTypes", "Supported Memory Types", Flags(kModuleTypes)},
     {0x0D, kByte, "memoryModuleVoltage", "Memory Module Voltage", CodeBy(ReadModuleVoltage)},
     {kSlotCount,
      kByte,
@@ -69,7 +69,7 @@ constexpr FieldRow kBehindSlotsRows[] = {
      kByte,
      "enabledErrorCorrectingCapabilities",
      "Enabled Error Correcting Capabilities",
-     Flags(kErrorCorrectingCapabilities.Rows())},
+     Flags(kErrorCorrectingCapabilities)},
 };
 constexpr GroupTable kMemoryControllerGroups[] = {
     {.group = "", .rows = kBehindSlotsRows},
@@ -129,14 +129,14 @@ Value ReadModuleErrors(const Reading& reading) {
     if ((status & kSeeEventLog) != 0) {
         return Words(status, "See Event Log");
     }
-    return Words(status, WordsFor(kModuleErrors.Rows(), status & 0x03));
+    return Words(status, WordsFor(kModuleErrors, status & 0x03));
 }
 
 constexpr FieldRow kMemoryModuleRows[] = {
     {0x04, kByte, "socketDesignation", "Socket Designation", String()},
     {0x05, kByte, "bankConnections", "Bank Connections", CodeBy(ReadBankConnections)},
-    {0x06, kByte, "currentSpeed", "Current Speed", Measure("ns", " ns", kUnknownIfZero.Rows())},
-    {0x07, kWord, "currentMemoryType", "Type", FlagsInLine(kModuleTypes.Rows())},
+    {0x06, kByte, "currentSpeed", "Current Speed", Measure("ns", " ns", kUnknownIfZero)},
+    {0x07, kWord, "currentMemoryType", "Type", FlagsInLine(kModuleTypes)},
     {0x09, kByte, "installedSize", "Installed Size", NumberBy(ReadModuleSize, "byte")},
     {0x0A, kByte, "enabledSize", "Enabled Size", NumberBy(ReadModuleSize, "byte")},
     {0x0B, kByte, "errorStatus", "Error Status", CodeBy(ReadModuleErrors)},

@@ -48,11 +48,11 @@ constexpr FieldRow kPortableBatteryRows[] = {
     {0x06, kByte, "manufactureDate", "Manufacture Date", String()},
     {0x07, kByte, "serialNumber", "Serial Number", String()},
     {0x08, kByte, "deviceName", "Name", String()},
-    {0x09, kByte, "deviceChemistry", "Chemistry", Code(kBatteryChemistries.Rows())},
+    {0x09, kByte, "deviceChemistry", "Chemistry", Code(kBatteryChemistries)},
     {0x0A, kWord, "designCapacity", "Design Capacity", NumberBy(ReadDesignCapacity, "mWh")},
-    {0x0C, kWord, "designVoltage", "Design Voltage", Measure("mV", " mV", kUnknownIfZero.Rows())},
+    {0x0C, kWord, "designVoltage", "Design Voltage", Measure("mV", " mV", kUnknownIfZero)},
     {0x0E, kByte, "sbdsVersionNumber", "SBDS Version", String()},
-    {0x0F, kByte, "maximumErrorInBatteryData", "Maximum Error", Measure("%", "%", kUnknownIfByteFull.Rows())},
+    {0x0F, kByte, "maximumErrorInBatteryData", "Maximum Error", Measure("%", "%", kUnknownIfByteFull)},
     {0x10, kWord, "sbdsSerialNumber", "SBDS Serial Number", NumberBy(ReadSerialWord)},
     {0x12, kWord, "sbdsManufactureDate", "SBDS Manufacture Date", TextBy(ReadManufactureDate)},
     {0x14, kByte, "sbdsDeviceChemistry", "SBDS Chemistry", String()},
@@ -83,8 +83,8 @@ constexpr FieldRow kPowerControlsRows[] = {
 
 constexpr FieldRow kVoltageProbeRows[] = {
     {0x04, kByte, "description", "Description", String()},
-    {0x05, kByte, "location", "Location", CodeIn(0, 5, kProbeLocations.Rows())},
-    {0x05, kByte, "status", "Status", CodeIn(5, 3, kProbeStates.Rows())},
+    {0x05, kByte, "location", "Location", CodeIn(0, 5, kProbeLocations)},
+    {0x05, kByte, "status", "Status", CodeIn(5, 3, kProbeStates)},
     {0x06, kWord, "maximumValue", "Maximum Value", Signed("mV", " V", 3)},
     {0x08, kWord, "minimumValue", "Minimum Value", Signed("mV", " V", 3)},
     {0x0A, kWord, "resolution", "Resolution", Fraction("0.1 mV", " mV", 1)},
@@ -96,8 +96,8 @@ constexpr FieldRow kVoltageProbeRows[] = {
 
 constexpr FieldRow kTemperatureProbeRows[] = {
     {0x04, kByte, "description", "Description", String()},
-    {0x05, kByte, "location", "Location", CodeIn(0, 5, kTemperatureProbeLocations.Rows())},
-    {0x05, kByte, "status", "Status", CodeIn(5, 3, kProbeStates.Rows())},
+    {0x05, kByte, "location", "Location", CodeIn(0, 5, kTemperatureProbeLocations)},
+    {0x05, kByte, "status", "Status", CodeIn(5, 3, kProbeStates)},
     {0x06, kWord, "maximumValue", "Maximum Value", Signed("0.1 degC", " deg C", 1)},
     {0x08, kWord, "minimumValue", "Minimum Value", Signed("0.1 degC", " deg C", 1)},
     {0x0A, kWord, "resolution", "Resolution", Fraction("0.001 degC", " deg C", 3)},
@@ -109,8 +109,8 @@ constexpr FieldRow kTemperatureProbeRows[] = {
 
 constexpr FieldRow kCurrentProbeRows[] = {
     {0x04, kByte, "description", "Description", String()},
-    {0x05, kByte, "location", "Location", CodeIn(0, 5, kProbeLocations.Rows())},
-    {0x05, kByte, "status", "Status", CodeIn(5, 3, kProbeStates.Rows())},
+    {0x05, kByte, "location", "Location", CodeIn(0, 5, kProbeLocations)},
+    {0x05, kByte, "status", "Status", CodeIn(5, 3, kProbeStates)},
     {0x06, kWord, "maximumValue", "Maximum Value", Signed("mA", " A", 3)},
     {0x08, kWord, "minimumValue", "Minimum Value", Signed("mA", " A", 3)},
     {0x0A, kWord, "resolution", "Resolution", Fraction("0.1 mA", " mA", 1)},
@@ -123,16 +123,12 @@ constexpr FieldRow kCurrentProbeRows[] = {
 // Type 27
 
 constexpr FieldRow kCoolingDeviceRows[] = {
-    {0x04,
-     kWord,
-     "temperatureProbeHandle",
-     "Temperature Probe Handle",
-     Handle(kNotProvidedIfWordFull.Rows())},
-    {0x06, kByte, "deviceType", "Type", CodeIn(0, 5, kCoolingDeviceTypes.Rows())},
-    {0x06, kByte, "status", "Status", CodeIn(5, 3, kProbeStates.Rows())},
-    {0x07, kByte, "coolingUnitGroup", "Cooling Unit Group", Count(kUngrouped.Rows())},
+    {0x04, kWord, "temperatureProbeHandle", "Temperature Probe Handle", Handle(kNotProvidedIfWordFull)},
+    {0x06, kByte, "deviceType", "Type", CodeIn(0, 5, kCoolingDeviceTypes)},
+    {0x06, kByte, "status", "Status", CodeIn(5, 3, kProbeStates)},
+    {0x07, kByte, "coolingUnitGroup", "Cooling Unit Group", Count(kUngrouped)},
     {0x08, kDword, "oemDefined", "OEM-specific Information", Hex()},
-    {0x0C, kWord, "nominalSpeed", "Nominal Speed", Measure("rpm", " rpm", kUnknownSpeed.Rows())},
+    {0x0C, kWord, "nominalSpeed", "Nominal Speed", Measure("rpm", " rpm", kUnknownSpeed)},
     {0x0E, kByte, "description", "Description", String()},
 };
 
@@ -145,13 +141,13 @@ Value ReadSupplyStatus(const Reading& reading) {
     if ((characteristics & kIsPresent) == 0) {
         return Words(status, "Not Present");
     }
-    return Words(status, "Present, " + WordsFor(kSupplyStates.Rows(), status));
+    return Words(status, "Present, " + WordsFor(kSupplyStates, status));
 }
 
-constexpr WordList kNotProvided = kNotProvidedIfWordFull.Rows();
+constexpr WordList kNotProvided = kNotProvidedIfWordFull;
 
 constexpr FieldRow kPowerSupplyRows[] = {
-    {0x04, kByte, "powerUnitGroup", "Power Unit Group", Count(kUngrouped.Rows())},
+    {0x04, kByte, "powerUnitGroup", "Power Unit Group", Count(kUngrouped)},
     {0x05, kByte, "location", "Location", String()},
     {0x06, kByte, "deviceName", "Name", String()},
     {0x07, kByte, "manufacturer", "Manufacturer", String()},
@@ -159,17 +155,17 @@ constexpr FieldRow kPowerSupplyRows[] = {
     {0x09, kByte, "assetTagNumber", "Asset Tag", String()},
     {0x0A, kByte, "modelPartNumber", "Model Part Number", String()},
     {0x0B, kByte, "revisionLevel", "Revision", String()},
-    {0x0C, kWord, "maxPowerCapacity", "Max Power Capacity", Measure("W", " W", kUnknownIfHighBit.Rows())},
+    {0x0C, kWord, "maxPowerCapacity", "Max Power Capacity", Measure("W", " W", kUnknownIfHighBit)},
     {0x0E, kWord, "status", "Status", CodeBy(ReadSupplyStatus)},
-    {0x0E, kWord, "present", "", CodeIn(1, 1, kYesNo.Rows())},
-    {0x0E, kWord, "type", "Type", CodeIn(10, 4, kSupplyTypes.Rows())},
+    {0x0E, kWord, "present", "", CodeIn(1, 1, kYesNo)},
+    {0x0E, kWord, "type", "Type", CodeIn(10, 4, kSupplyTypes)},
     {0x0E,
      kWord,
      "inputVoltageRangeSwitching",
      "Input Voltage Range Switching",
-     CodeIn(3, 4, kSupplyInputRanges.Rows())},
-    {0x0E, kWord, "unplugged", "Plugged", CodeIn(2, 1, kNoYes.Rows())},
-    {0x0E, kWord, "hotReplaceable", "Hot Replaceable", CodeIn(0, 1, kYesNo.Rows())},
+     CodeIn(3, 4, kSupplyInputRanges)},
+    {0x0E, kWord, "unplugged", "Plugged", CodeIn(2, 1, kNoYes)},
+    {0x0E, kWord, "hotReplaceable", "Hot Replaceable", CodeIn(0, 1, kYesNo)},
     {0x10, kWord, "inputVoltageProbeHandle", "Input Voltage Probe Handle", Handle(kNotProvided)},
     {0x12, kWord, "coolingDeviceHandle", "Cooling Device Handle", Handle(kNotProvided)},
     {0x14, kWord, "inputCurrentProbeHandle", "Input Current Probe Handle", Handle(kNotProvided)},

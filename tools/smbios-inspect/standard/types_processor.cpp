@@ -26,7 +26,7 @@ std::uint64_t FamilyOf(const Structure& structure) {
 
 Value ReadFamily(const Reading& reading) {
     const std::uint64_t family = FamilyOf(reading.structure);
-    return Words(family, WordsFor(kProcessorFamilies.Rows(), family));
+    return Words(family, WordsFor(kProcessorFamilies, family));
 }
 
 Value ReadSignature(const Reading& reading) {
@@ -38,7 +38,7 @@ Value ReadProcessorFlags(const Reading& reading) {
     if (!HasFeatureFlags(FamilyOf(reading.structure))) {
         return Nothing("Not Applicable");
     }
-    std::vector<Item> names = NamesOfBits(kProcessorFlags.Rows(), flags);
+    std::vector<Item> names = NamesOfBits(kProcessorFlags, flags);
     std::string text = names.empty() ? "None" : "";
     return List(flags, std::move(text), std::move(names));
 }
@@ -51,7 +51,7 @@ Value ReadProcessorVoltage(const Reading& reading) {
         const auto tenths = static_cast<std::int64_t>(voltage & 0x7F);
         return Number(voltage & 0x7F, DecimalText(tenths, 1) + " V");
     }
-    const std::string capable = InOneLine(NamesOfBits(kProcessorVoltages.Rows(), voltage));
+    const std::string capable = InOneLine(NamesOfBits(kProcessorVoltages, voltage));
     return Nothing(capable.empty() ? kUnknown : std::string_view(capable));
 }
 
@@ -61,7 +61,7 @@ Value ReadProcessorStatus(const Reading& reading) {
     if ((status & kIsPopulated) == 0) {
         return Words(status, "Unpopulated");
     }
-    return Words(status, "Populated, " + WordsFor(kProcessorStates.Rows(), status & 0x07));
+    return Words(status, "Populated, " + WordsFor(kProcessorStates, status & 0x07));
 }
 
 /// A count in a byte; one that has no room there is in a word at `WideOffset`.
@@ -85,11 +85,11 @@ Value ReadCacheHandle(const Reading& reading) {
     return handle;
 }
 
-constexpr WordList kNotProvided = kNotProvidedIfWordFull.Rows();
+constexpr WordList kNotProvided = kNotProvidedIfWordFull;
 
 constexpr FieldRow kProcessorRows[] = {
     {0x04, kByte, "socketDesignation", "Socket Designation", String()},
-    {0x05, kByte, "processorType", "Type", Code(kProcessorTypes.Rows())},
+    {0x05, kByte, "processorType", "Type", Code(kProcessorTypes)},
     {0x06, kByte, "processorFamily", "Family", CodeBy(ReadFamily)},
     {0x07, kByte, "processorManufacturer", "Manufacturer", String()},
     {0x08, kQword, "processorId", "ID", RawBytes()},
@@ -97,11 +97,11 @@ constexpr FieldRow kProcessorRows[] = {
     {0x0C, kDword, "featureFlags", "Flags", FlagsBy(ReadProcessorFlags)},
     {0x10, kByte, "processorVersion", "Version", String()},
     {0x11, kByte, "voltage", "Voltage", NumberBy(ReadProcessorVoltage, "0.1 V")},
-    {0x12, kWord, "externalClock", "External Clock", Measure("MHz", " MHz", kUnknownIfZero.Rows())},
-    {0x14, kWord, "maxSpeed", "Max Speed", Measure("MHz", " MHz", kUnknownIfZero.Rows())},
-    {0x16, kWord, "currentSpeed", "Current Speed", Measure("MHz", " MHz", kUnknownIfZero.Rows())},
+    {0x12, kWord, "externalClock", "External Clock", Measure("MHz", " MHz", kUnknownIfZero)},
+    {0x14, kWord, "maxSpeed", "Max Speed", Measure("MHz", " MHz", kUnknownIfZero)},
+    {0x16, kWord, "currentSpeed", "Current Speed", Measure("MHz", " MHz", kUnknownIfZero)},
     {0x18, kByte, "status", "Status", CodeBy(ReadProcessorStatus)},
-    {0x19, kByte, "processorUpgrade", "Upgrade", Code(kProcessorUpgrades.Rows())},
+    {0x19, kByte, "processorUpgrade", "Upgrade", Code(kProcessorUpgrades)},
     {0x1A, kWord, "l1CacheHandle", "L1 Cache Handle", HandleBy(ReadCacheHandle<'1'>, kNotProvided)},
     {0x1C, kWord, "l2CacheHandle", "L2 Cache Handle", HandleBy(ReadCacheHandle<'2'>, kNotProvided)},
     {0x1E, kWord, "l3CacheHandle", "L3 Cache Handle", HandleBy(ReadCacheHandle<'3'>, kNotProvided)},
@@ -111,12 +111,12 @@ constexpr FieldRow kProcessorRows[] = {
     {0x23, kByte, "coreCount", "Core Count", NumberBy(ReadCoreCount<0x2A>)},
     {0x24, kByte, "coreEnabled", "Core Enabled", NumberBy(ReadCoreCount<0x2C>)},
     {0x25, kByte, "threadCount", "Thread Count", NumberBy(ReadCoreCount<0x2E>)},
-    {0x26, kWord, "processorCharacteristics", "Characteristics", Flags(kProcessorCharacteristics.Rows())},
-    {0x28, kWord, "processorFamily2", "", Code(kProcessorFamilies.Rows())},
+    {0x26, kWord, "processorCharacteristics", "Characteristics", Flags(kProcessorCharacteristics)},
+    {0x28, kWord, "processorFamily2", "", Code(kProcessorFamilies)},
     {0x2A, kWord, "coreCount2", "", Count()},
     {0x2C, kWord, "coreEnabled2", "", Count()},
     {0x2E, kWord, "threadCount2", "", Count()},
-    {0x30, kWord, "threadEnabled", "Thread Enabled", Count(kUnknownIfZero.Rows())},
+    {0x30, kWord, "threadEnabled", "Thread Enabled", Count(kUnknownIfZero)},
     {0x32, kByte, "socketType", "Socket Type", String()},
 };
 
@@ -155,16 +155,16 @@ Value ReadWideCacheSize(const Reading& reading) {
 constexpr FieldRow kCacheRows[] = {
     {0x04, kByte, "socketDesignation", "Socket Designation", String()},
     {0x05, kWord, "cacheConfiguration", "Configuration", CodeBy(ReadCacheConfiguration)},
-    {0x05, kWord, "operationalMode", "Operational Mode", CodeIn(8, 2, kCacheModes.Rows())},
-    {0x05, kWord, "location", "Location", CodeIn(5, 2, kCacheLocations.Rows())},
+    {0x05, kWord, "operationalMode", "Operational Mode", CodeIn(8, 2, kCacheModes)},
+    {0x05, kWord, "location", "Location", CodeIn(5, 2, kCacheLocations)},
     {0x07, kWord, "maximumCacheSize", "Maximum Size", NumberBy(ReadCacheSize<0x13>, "byte")},
     {0x09, kWord, "installedSize", "Installed Size", NumberBy(ReadCacheSize<0x17>, "byte")},
-    {0x0B, kWord, "supportedSramType", "Supported SRAM Types", Flags(kSramTypes.Rows())},
-    {0x0D, kWord, "currentSramType", "Installed SRAM Type", FlagsInLine(kSramTypes.Rows())},
-    {0x0F, kByte, "cacheSpeed", "Speed", Measure("ns", " ns", kUnknownIfZero.Rows())},
-    {0x10, kByte, "errorCorrectionType", "Error Correction Type", Code(kCacheErrorCorrections.Rows())},
-    {0x11, kByte, "systemCacheType", "System Type", Code(kCacheTypes.Rows())},
-    {0x12, kByte, "associativity", "Associativity", Code(kCacheAssociativities.Rows())},
+    {0x0B, kWord, "supportedSramType", "Supported SRAM Types", Flags(kSramTypes)},
+    {0x0D, kWord, "currentSramType", "Installed SRAM Type", FlagsInLine(kSramTypes)},
+    {0x0F, kByte, "cacheSpeed", "Speed", Measure("ns", " ns", kUnknownIfZero)},
+    {0x10, kByte, "errorCorrectionType", "Error Correction Type", Code(kCacheErrorCorrections)},
+    {0x11, kByte, "systemCacheType", "System Type", Code(kCacheTypes)},
+    {0x12, kByte, "associativity", "Associativity", Code(kCacheAssociativities)},
     {0x13, kDword, "maximumCacheSize2", "", NumberBy(ReadWideCacheSize, "byte")},
     {0x17, kDword, "installedCacheSize2", "", NumberBy(ReadWideCacheSize, "byte")},
 };

@@ -48,7 +48,7 @@ Value ReadInstructionSets(const Reading& reading) {
 constexpr FieldRow kProcessorAdditionalRows[] = {
     {0x04, kWord, "referencedHandle", "Referenced Handle", Handle()},
     {0x06, kByte, "blockLength", "Block Length", Measure("byte", " bytes")},
-    {0x07, kByte, "processorType", "Processor Type", Code(kProcessorArchitectures.Rows())},
+    {0x07, kByte, "processorType", "Processor Type", Code(kProcessorArchitectures)},
     {0x08, kByte, "processorSpecificData", "Processor-Specific Data", TextBy(ReadProcessorData)},
 };
 
@@ -57,22 +57,18 @@ constexpr FieldRow kRiscvRows[] = {
     {0x00, kWord, "riscvRevision", "Revision", TextBy(ReadRiscvRevision)},
     {0x02, kByte, "riscvStructureLength", "", Measure("byte", " bytes")},
     {0x03, 16, "hartId", "Hart ID", TextBy(ReadWideHex)},
-    {0x13, kByte, "bootHart", "Boot Hart", Code(kRiscvBootHart.Rows())},
+    {0x13, kByte, "bootHart", "Boot Hart", Code(kRiscvBootHart)},
     {0x14, 16, "machineVendorId", "Machine Vendor ID", TextBy(ReadWideHex)},
     {0x24, 16, "machineArchitectureId", "Machine Architecture ID", TextBy(ReadWideHex)},
     {0x34, 16, "machineImplementationId", "Machine Implementation ID", TextBy(ReadWideHex)},
     {0x44, kDword, "instructionSetSupported", "Instruction Set Supported", CodeBy(ReadInstructionSets)},
-    {0x48,
-     kByte,
-     "privilegeLevelSupported",
-     "Privilege Levels Supported",
-     Flags(kRiscvPrivilegeLevels.Rows())},
+    {0x48, kByte, "privilegeLevelSupported", "Privilege Levels Supported", Flags(kRiscvPrivilegeLevels)},
     {0x49, 16, "machineExceptionTrapDelegation", "Machine Exception Trap Delegation", TextBy(ReadWideHex)},
     {0x59, 16, "machineInterruptTrapDelegation", "Machine Interrupt Trap Delegation", TextBy(ReadWideHex)},
-    {0x69, kByte, "registerWidth", "Register Width", Code(kRiscvWidths.Rows())},
-    {0x6A, kByte, "machineModeWidth", "Machine Mode Width", Code(kRiscvWidths.Rows())},
-    {0x6C, kByte, "supervisorModeWidth", "Supervisor Mode Width", Code(kRiscvWidths.Rows())},
-    {0x6D, kByte, "userModeWidth", "User Mode Width", Code(kRiscvWidths.Rows())},
+    {0x69, kByte, "registerWidth", "Register Width", Code(kRiscvWidths)},
+    {0x6A, kByte, "machineModeWidth", "Machine Mode Width", Code(kRiscvWidths)},
+    {0x6C, kByte, "supervisorModeWidth", "Supervisor Mode Width", Code(kRiscvWidths)},
+    {0x6D, kByte, "userModeWidth", "User Mode Width", Code(kRiscvWidths)},
 };
 
 constexpr GroupTable kProcessorAdditionalGroups[] = {

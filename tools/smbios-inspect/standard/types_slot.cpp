@@ -19,8 +19,8 @@ constexpr std::size_t kPeerSize = 5;
 Value ReadSlotType(const Reading& reading) {
     const std::uint64_t type = reading.Raw();
     const std::uint8_t width = reading.structure.Area().Byte(kSlotWidth);
-    std::string words(Common::FindText(kSlotWidths.Rows(), std::uint64_t{width}).value_or("<OUT OF SPEC> "));
-    return Words(type, words + WordsFor(kSlotTypes.Rows(), type));
+    std::string words(kSlotWidths.Find(width).value_or("<OUT OF SPEC> "));
+    return Words(type, words + WordsFor(kSlotTypes, type));
 }
 
 /// A PC card's number has an adapter and a socket, any other one is in the first byte.
@@ -41,8 +41,8 @@ Value ReadSlotCharacteristics(const Reading& reading) {
     if ((bits & kIsUnknown) != 0) {
         return List(bits, std::string(kUnknown), {});
     }
-    std::vector<Item> items = NamesOfBits(kSlotCharacteristics1.Rows(), bits);
-    for (Item& item : NamesOfBits(kSlotCharacteristics2.Rows(), reading.structure.Area().Byte(0x0C))) {
+    std::vector<Item> items = NamesOfBits(kSlotCharacteristics1, bits);
+    for (Item& item : NamesOfBits(kSlotCharacteristics2, reading.structure.Area().Byte(0x0C))) {
         items.push_back(std::move(item));
     }
     std::string text = items.empty() ? "None" : "";
@@ -70,12 +70,12 @@ Value ReadPitch(const Reading& reading) {
 constexpr FieldRow kSystemSlotRows[] = {
     {0x04, kByte, "slotDesignation", "Designation", String()},
     {0x05, kByte, "slotType", "Type", CodeBy(ReadSlotType)},
-    {0x06, kByte, "slotDataBusWidth", "", Code(kSlotPhysicalWidths.Rows())},
-    {0x07, kByte, "currentUsage", "Current Usage", Code(kSlotUsages.Rows())},
-    {0x08, kByte, "slotLength", "Length", Code(kSlotLengths.Rows())},
+    {0x06, kByte, "slotDataBusWidth", "", Code(kSlotPhysicalWidths)},
+    {0x07, kByte, "currentUsage", "Current Usage", Code(kSlotUsages)},
+    {0x08, kByte, "slotLength", "Length", Code(kSlotLengths)},
     {0x09, kWord, "slotId", "ID", NumberBy(ReadSlotId)},
     {0x0B, kByte, "slotCharacteristics1", "Characteristics", FlagsBy(ReadSlotCharacteristics)},
-    {0x0C, kByte, "slotCharacteristics2", "", Flags(kSlotCharacteristics2.Rows())},
+    {0x0C, kByte, "slotCharacteristics2", "", Flags(kSlotCharacteristics2)},
     {0x0D, kDword, "busAddress", "Bus Address", BusAddress()},
     {0x11, kByte, "dataBusWidth", "Data Bus Width", Count()},
     {0x12, kByte, "peerGroupingCount", "Peer Devices", Count()},
@@ -89,9 +89,9 @@ constexpr FieldRow kPeerRows[] = {
 /// Behind the peers.
 constexpr FieldRow kBehindPeersRows[] = {
     {0x00, kByte, "slotInformation", "PCI Express Generation", Count()},
-    {0x01, kByte, "slotPhysicalWidth", "Slot Physical Width", Code(kSlotPhysicalWidths.Rows())},
+    {0x01, kByte, "slotPhysicalWidth", "Slot Physical Width", Code(kSlotPhysicalWidths)},
     {0x02, kWord, "slotPitch", "Pitch", NumberBy(ReadPitch, "0.01 mm")},
-    {0x04, kByte, "slotHeight", "Height", Code(kSlotHeights.Rows())},
+    {0x04, kByte, "slotHeight", "Height", Code(kSlotHeights)},
 };
 
 constexpr GroupTable kSlotGroups[] = {

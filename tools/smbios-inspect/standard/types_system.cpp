@@ -50,11 +50,11 @@ Value ReadRomSize(const Reading& reading) {
 /// People read the extension bytes in the same list.
 Value ReadFirmwareCharacteristics(const Reading& reading) {
     const Structures::FormattedArea area = reading.structure.Area();
-    std::vector<Item> items = NamesOfBits(kFirmwareCharacteristics.Rows(), reading.Raw());
-    for (Item& item : NamesOfBits(kFirmwareCharacteristics1.Rows(), area.Byte(0x12))) {
+    std::vector<Item> items = NamesOfBits(kFirmwareCharacteristics, reading.Raw());
+    for (Item& item : NamesOfBits(kFirmwareCharacteristics1, area.Byte(0x12))) {
         items.push_back(std::move(item));
     }
-    for (Item& item : NamesOfBits(kFirmwareCharacteristics2.Rows(), area.Byte(0x13))) {
+    for (Item& item : NamesOfBits(kFirmwareCharacteristics2, area.Byte(0x13))) {
         items.push_back(std::move(item));
     }
     return List(reading.Raw(), "", std::move(items));
@@ -68,8 +68,8 @@ constexpr FieldRow kFirmwareInformationRows[] = {
     {0x08, kByte, "firmwareReleaseDate", "Release Date", String()},
     {0x09, kByte, "firmwareRomSize", "ROM Size", NumberBy(ReadRomSize, "byte")},
     {0x0A, kQword, "biosCharacteristics", "Characteristics", FlagsBy(ReadFirmwareCharacteristics)},
-    {0x12, kByte, "biosCharacteristicsExtensionByte1", "", Flags(kFirmwareCharacteristics1.Rows())},
-    {0x13, kByte, "biosCharacteristicsExtensionByte2", "", Flags(kFirmwareCharacteristics2.Rows())},
+    {0x12, kByte, "biosCharacteristicsExtensionByte1", "", Flags(kFirmwareCharacteristics1)},
+    {0x13, kByte, "biosCharacteristicsExtensionByte2", "", Flags(kFirmwareCharacteristics2)},
     {0x14, kWord, "platformFirmwareRelease", "BIOS Revision", Release()},
     {0x16, kWord, "embeddedControllerFirmwareRelease", "Firmware Revision", Release()},
     {0x18, kWord, "extendedFirmwareRomSize", "", Hex()},
@@ -83,7 +83,7 @@ constexpr FieldRow kSystemInformationRows[] = {
     {0x06, kByte, "version", "Version", String()},
     {0x07, kByte, "serialNumber", "Serial Number", String()},
     {0x08, 16, "uuid", "UUID", Uuid()},
-    {0x18, kByte, "wakeUpType", "Wake-up Type", Code(kWakeUpTypes.Rows())},
+    {0x18, kByte, "wakeUpType", "Wake-up Type", Code(kWakeUpTypes)},
     {0x19, kByte, "skuNumber", "SKU Number", String()},
     {0x1A, kByte, "family", "Family", String()},
 };
@@ -136,7 +136,7 @@ Value ReadLanguages(const Reading& reading) {
 
 constexpr FieldRow kFirmwareLanguageRows[] = {
     {0x04, kByte, "installableLanguages", "Installable Languages", ListBy(ReadLanguages)},
-    {0x05, kByte, "flags", "Language Description Format", CodeIn(0, 1, kLanguageFormats.Rows())},
+    {0x05, kByte, "flags", "Language Description Format", CodeIn(0, 1, kLanguageFormats)},
     {0x15, kByte, "currentLanguage", "Currently Installed Language", String()},
 };
 
@@ -163,47 +163,35 @@ constexpr FieldRow kGroupAssociationsRows[] = {
 // Type 23
 
 constexpr FieldRow kSystemResetRows[] = {
-    {0x04, kByte, "status", "Status", CodeIn(0, 1, kEnabled.Rows())},
-    {0x04, kByte, "watchdogTimer", "Watchdog Timer", CodeIn(5, 1, kPresent.Rows())},
-    {0x04, kByte, "bootOption", "Boot Option", CodeIn(1, 2, kBootOptions.Rows())},
-    {0x04, kByte, "bootOptionOnLimit", "Boot Option On Limit", CodeIn(3, 2, kBootOptions.Rows())},
-    {0x05, kWord, "resetCount", "Reset Count", Count(kUnknownIfWordFull.Rows())},
-    {0x07, kWord, "resetLimit", "Reset Limit", Count(kUnknownIfWordFull.Rows())},
-    {0x09, kWord, "timerInterval", "Timer Interval", Measure("min", " min", kUnknownIfWordFull.Rows())},
-    {0x0B, kWord, "timeout", "Timeout", Measure("min", " min", kUnknownIfWordFull.Rows())},
+    {0x04, kByte, "status", "Status", CodeIn(0, 1, kEnabled)},
+    {0x04, kByte, "watchdogTimer", "Watchdog Timer", CodeIn(5, 1, kPresent)},
+    {0x04, kByte, "bootOption", "Boot Option", CodeIn(1, 2, kBootOptions)},
+    {0x04, kByte, "bootOptionOnLimit", "Boot Option On Limit", CodeIn(3, 2, kBootOptions)},
+    {0x05, kWord, "resetCount", "Reset Count", Count(kUnknownIfWordFull)},
+    {0x07, kWord, "resetLimit", "Reset Limit", Count(kUnknownIfWordFull)},
+    {0x09, kWord, "timerInterval", "Timer Interval", Measure("min", " min", kUnknownIfWordFull)},
+    {0x0B, kWord, "timeout", "Timeout", Measure("min", " min", kUnknownIfWordFull)},
 };
 
 // Type 24
 
 constexpr FieldRow kHardwareSecurityRows[] = {
-    {0x04,
-     kByte,
-     "powerOnPasswordStatus",
-     "Power-On Password Status",
-     CodeIn(6, 2, kSecuritySettings.Rows())},
-    {0x04,
-     kByte,
-     "keyboardPasswordStatus",
-     "Keyboard Password Status",
-     CodeIn(4, 2, kSecuritySettings.Rows())},
+    {0x04, kByte, "powerOnPasswordStatus", "Power-On Password Status", CodeIn(6, 2, kSecuritySettings)},
+    {0x04, kByte, "keyboardPasswordStatus", "Keyboard Password Status", CodeIn(4, 2, kSecuritySettings)},
     {0x04,
      kByte,
      "administratorPasswordStatus",
      "Administrator Password Status",
-     CodeIn(2, 2, kSecuritySettings.Rows())},
-    {0x04,
-     kByte,
-     "frontPanelResetStatus",
-     "Front Panel Reset Status",
-     CodeIn(0, 2, kSecuritySettings.Rows())},
+     CodeIn(2, 2, kSecuritySettings)},
+    {0x04, kByte, "frontPanelResetStatus", "Front Panel Reset Status", CodeIn(0, 2, kSecuritySettings)},
 };
 
 // Type 30
 
 constexpr FieldRow kOutOfBandRemoteAccessRows[] = {
     {0x04, kByte, "manufacturerName", "Manufacturer Name", String()},
-    {0x05, kByte, "inboundConnection", "Inbound Connection", CodeIn(0, 1, kEnabled.Rows())},
-    {0x05, kByte, "outboundConnection", "Outbound Connection", CodeIn(1, 1, kEnabled.Rows())},
+    {0x05, kByte, "inboundConnection", "Inbound Connection", CodeIn(0, 1, kEnabled)},
+    {0x05, kByte, "outboundConnection", "Outbound Connection", CodeIn(1, 1, kEnabled)},
 };
 
 // Type 31
@@ -238,7 +226,7 @@ Value ReadBootStatus(const Reading& reading) {
     if (status >= kFirstOem) {
         return Words(status, status < kFirstProduct ? "OEM-specific" : "Product-specific");
     }
-    return Words(status, WordsFor(kBootStates.Rows(), status));
+    return Words(status, WordsFor(kBootStates, status));
 }
 
 constexpr FieldRow kSystemBootRows[] = {
