@@ -20,7 +20,7 @@ namespace {
 
 using Inspect::Command;
 using Inspect::Json;
-using Inspect::Options;
+using Inspect::Request;
 using Inspect::ParseOptions;
 using Inspect::UsageError;
 using Words = std::vector<std::string_view>;
@@ -36,14 +36,14 @@ std::vector<std::uint8_t> SmallTable() {
         .RawTable();
 }
 
-std::string FirmwareReport(std::vector<std::uint8_t> table, const Options& options) {
+std::string FirmwareReport(std::vector<std::uint8_t> table, const Request& request) {
     const FakeFirmwareTable firmware(std::move(table));
     std::ostringstream output;
-    Inspect::ReportFirmware(options, {}, output);
+    Inspect::ReportFirmware(request, {}, output);
     return output.str();
 }
 
-std::vector<int> HandlesOf(const Options& options) {
+std::vector<int> HandlesOf(const Request& request) {
     Options withJson = options;
     withJson.json = true;
     const Json report = Json::parse(FirmwareReport(SmallTable(), withJson));
@@ -58,6 +58,15 @@ TEST(FirmwareReport, HasTheVersionAndEveryStructureInTableOrder) {
     const Json report = Json::parse(FirmwareReport(SmallTable(), {.json = true}));
     EXPECT_EQ(report.at("version"), "3.2.1");
     EXPECT_EQ(HandlesOf({}), (std::vector{0x18, 0x126, 0x21, 0x200, 0x19, 0x7F01}));
+}
+
+TEST(FirmwareReport, JsonIsLaidOutLikeThatOfTheOtherCommands) {
+    for (const Request& request : {Options{.json = true}, Options{.json = true, .types = {5}}}) {
+        const std::string report = FirmwareReport(SmallTable(), request);
+        std::ostringstream expected;
+        Inspect::PrintJson(Json::parse(report), expected);
+        EXPECT_EQ(report, expected.str());
+    }
 }
 
 TEST(FirmwareReport, TypesSelectTheirStructures) {
@@ -102,11 +111,11 @@ TEST(FirmwareReport, IsWhatTheCommandPrints) {
 TEST(FirmwareOptions, NameTheCommandAndWhatItTakes) {
     const Options options = ParseOptions(
         Words{"firmware", "--json", "--quiet", "--type=17", "--handle", "0x1A", "--handle=65535"});
-    EXPECT_EQ(options.command, Command::firmware);
-    EXPECT_TRUE(options.json);
-    EXPECT_TRUE(options.quiet);
-    EXPECT_EQ(options.types, (std::set<std::uint8_t>{17}));
-    EXPECT_EQ(options.handles, (std::set<std::uint16_t>{0x1A, 0xFFFF}));
+    EXPECT_EQ(request.command, Command::firmware);
+    EXPECT_TRUE(request.json);
+    EXPECT_TRUE(request.quiet);
+    EXPECT_EQ(request.types, (std::set<std::uint8_t>{17}));
+    EXPECT_EQ(request.handles, (std::set<std::uint16_t>{0x1A, 0xFFFF}));
 }
 
 TEST(FirmwareOptions, AHandleThatIsNoWordIsAnError) {

@@ -2,7 +2,8 @@
 
 #include <ostream>
 #include <string>
-#include <utility>
+#include <string_view>
+#include <vector>
 
 #include "manager/raw_table.h"
 #include "smbios-inspect/output/json.h"
@@ -28,14 +29,31 @@ std::string VersionText(Standard::TableVersion version) {
            std::to_string(version.revision);
 }
 
-void PrintAsJson(TableWalk walk, const Request& request, std::ostream& output) {
-    Json list = Json::array();
-    while (const auto structure = walk.Next()) {
-        if (IsAskedFor(*structure, request)) {
-            list.push_back(Standard::StructureToJson(*structure, request.quiet));
+/// As an element of a list in an object, without a line end.
+void PrintElement(const Json& json, std::ostream& output) {
+    constexpr std::string_view kIndent = "    ";
+    const std::string text = json.dump(2, ' ', false, Json::error_handler_t::replace);
+    output << kIndent;
+    for (const char character : text) {
+        output << character;
+        if (character == '\n') {
+            output << kIndent;
         }
     }
-    PrintJson({{"version", VersionText(walk.Version())}, {"structures", std::move(list)}}, output);
+}
+
+/// One structure after the other: a whole table as JSON would take many times its memory.
+void PrintAsJson(TableWalk walk, const Request& request, std::ostream& output) {
+    output << "{\n  \"version\": \"" << VersionText(walk.Version()) << "\",\n  \"structures\": [";
+    bool isFirst = true;
+    while (const auto structure = walk.Next()) {
+        if (IsAskedFor(*structure, request)) {
+            output << (isFirst ? "\n" : ",\n");
+            PrintElement(Standard::StructureToJson(*structure, request.quiet), output);
+            isFirst = false;
+        }
+    }
+    output << (isFirst ? "]\n}\n" : "\n  ]\n}\n");
 }
 
 void PrintAsText(TableWalk walk, const Request& request, const OutputStyle& style, std::ostream& output) {
