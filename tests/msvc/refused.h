@@ -1,4 +1,5 @@
-/* Included ahead of the header in question: words that Clang knows in every mode and Microsoft's compiler never. */
+/* Included ahead of the header in question: words that Clang knows in every mode and Microsoft's compiler
+ * never. */
 #include <stddef.h>
 #include <stdint.h>
 
