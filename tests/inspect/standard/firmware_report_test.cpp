@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/output/json.h"
 #include "tests/inspect/run_tool.h"
 #include "tests/inspect/standard/standard_support.h"
@@ -20,8 +21,9 @@ namespace {
 
 using Inspect::Command;
 using Inspect::Json;
-using Inspect::Request;
+using Inspect::Options;
 using Inspect::ParseOptions;
+using Inspect::Request;
 using Inspect::UsageError;
 using Words = std::vector<std::string_view>;
 
@@ -44,7 +46,7 @@ std::string FirmwareReport(std::vector<std::uint8_t> table, const Request& reque
 }
 
 std::vector<int> HandlesOf(const Request& request) {
-    Options withJson = options;
+    Request withJson = request;
     withJson.json = true;
     const Json report = Json::parse(FirmwareReport(SmallTable(), withJson));
     std::vector<int> handles;
@@ -61,7 +63,7 @@ TEST(FirmwareReport, HasTheVersionAndEveryStructureInTableOrder) {
 }
 
 TEST(FirmwareReport, JsonIsLaidOutLikeThatOfTheOtherCommands) {
-    for (const Request& request : {Options{.json = true}, Options{.json = true, .types = {5}}}) {
+    for (const Request& request : {Request{.json = true}, Request{.json = true, .types = {5}}}) {
         const std::string report = FirmwareReport(SmallTable(), request);
         std::ostringstream expected;
         Inspect::PrintJson(Json::parse(report), expected);
@@ -111,11 +113,11 @@ TEST(FirmwareReport, IsWhatTheCommandPrints) {
 TEST(FirmwareOptions, NameTheCommandAndWhatItTakes) {
     const Options options = ParseOptions(
         Words{"firmware", "--json", "--quiet", "--type=17", "--handle", "0x1A", "--handle=65535"});
-    EXPECT_EQ(request.command, Command::firmware);
-    EXPECT_TRUE(request.json);
-    EXPECT_TRUE(request.quiet);
-    EXPECT_EQ(request.types, (std::set<std::uint8_t>{17}));
-    EXPECT_EQ(request.handles, (std::set<std::uint16_t>{0x1A, 0xFFFF}));
+    EXPECT_EQ(options.command, Command::firmware);
+    EXPECT_TRUE(options.report.json);
+    EXPECT_TRUE(options.report.quiet);
+    EXPECT_EQ(options.report.types, (std::set<std::uint8_t>{17}));
+    EXPECT_EQ(options.report.handles, (std::set<std::uint16_t>{0x1A, 0xFFFF}));
 }
 
 TEST(FirmwareOptions, AHandleThatIsNoWordIsAnError) {

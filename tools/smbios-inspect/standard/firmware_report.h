@@ -2,8 +2,8 @@
 
 #include <iosfwd>
 
-#include "smbios-inspect/reports/request.h"
 #include "smbios-inspect/output/output_style.h"
+#include "smbios-inspect/reports/request.h"
 
 namespace SMBIOS::Inspect {
 
