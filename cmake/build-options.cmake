@@ -10,8 +10,18 @@ endif()
 
 target_compile_options(smbios-build-options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow
-    -ffunction-sections -fdata-sections)
+    -ffunction-sections -fdata-sections
+    -fstack-protector-strong)
 target_link_options(smbios-build-options INTERFACE -Wl,--gc-sections)
+
+# Whoever corrupts memory in spite of everything finds no easy next step. tests/hardening reads the files for it.
+if(NOT MINGW)
+    target_compile_options(smbios-build-options INTERFACE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+    target_link_options(smbios-build-options INTERFACE -Wl,-z,relro -Wl,-z,now)
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+        target_compile_options(smbios-build-options INTERFACE -fcf-protection=full)
+    endif()
+endif()
 
 if(MINGW)
     # The runtime libraries of the compiler are not present on a user's machine.
