@@ -3,7 +3,7 @@
 #include "smbios-inspect/standard/described_types.h"
 #include "smbios-inspect/standard/forms.h"
 #include "smbios-inspect/standard/row_visitor.h"
-#include "smbios-inspect/standard/words_board.h"
+#include "smbios-inspect/standard/words_slot.h"
 
 namespace SMBIOS::Inspect::Standard {
 

@@ -1,0 +1,172 @@
+#pragma once
+
+#include "smbios-inspect/standard/words.h"
+
+// What the codes of slots mean.
+namespace SMBIOS::Inspect::Standard {
+
+inline constexpr auto kSlotTypes = WordsOf({
+    {0x01, "Other"},
+    {0x02, "Unknown"},
+    {0x03, "ISA"},
+    {0x04, "MCA"},
+    {0x05, "EISA"},
+    {0x06, "PCI"},
+    {0x07, "PC Card (PCMCIA)"},
+    {0x08, "VLB"},
+    {0x09, "Proprietary"},
+    {0x0A, "Processor Card"},
+    {0x0B, "Proprietary Memory Card"},
+    {0x0C, "I/O Riser Card"},
+    {0x0D, "NuBus"},
+    {0x0E, "PCI-66"},
+    {0x0F, "AGP"},
+    {0x10, "AGP 2x"},
+    {0x11, "AGP 4x"},
+    {0x12, "PCI-X"},
+    {0x13, "AGP 8x"},
+    {0x14, "M.2 Socket 1-DP"},
+    {0x15, "M.2 Socket 1-SD"},
+    {0x16, "M.2 Socket 2"},
+    {0x17, "M.2 Socket 3"},
+    {0x18, "MXM Type I"},
+    {0x19, "MXM Type II"},
+    {0x1A, "MXM Type III"},
+    {0x1B, "MXM Type III-HE"},
+    {0x1C, "MXM Type IV"},
+    {0x1D, "MXM 3.0 Type A"},
+    {0x1E, "MXM 3.0 Type B"},
+    {0x1F, "PCI Express 2 SFF-8639 (U.2)"},
+    {0x20, "PCI Express 3 SFF-8639 (U.2)"},
+    {0x21, "PCI Express Mini 52-pin with bottom-side keep-outs"},
+    {0x22, "PCI Express Mini 52-pin without bottom-side keep-outs"},
+    {0x23, "PCI Express Mini 76-pin"},
+    {0x24, "PCI Express 4 SFF-8639 (U.2)"},
+    {0x25, "PCI Express 5 SFF-8639 (U.2)"},
+    {0x26, "OCP NIC 3.0 Small Form Factor (SFF)"},
+    {0x27, "OCP NIC 3.0 Large Form Factor (LFF)"},
+    {0x28, "OCP NIC Prior to 3.0"},
+    {0x30, "CXL Flexbus 1.0"},
+    {0xA0, "PC-98/C20"},
+    {0xA1, "PC-98/C24"},
+    {0xA2, "PC-98/E"},
+    {0xA3, "PC-98/Local Bus"},
+    {0xA4, "PC-98/Card"},
+    {0xA5, "PCI Express"},
+    {0xA6, "PCI Express x1"},
+    {0xA7, "PCI Express x2"},
+    {0xA8, "PCI Express x4"},
+    {0xA9, "PCI Express x8"},
+    {0xAA, "PCI Express x16"},
+    {0xAB, "PCI Express 2"},
+    {0xAC, "PCI Express 2 x1"},
+    {0xAD, "PCI Express 2 x2"},
+    {0xAE, "PCI Express 2 x4"},
+    {0xAF, "PCI Express 2 x8"},
+    {0xB0, "PCI Express 2 x16"},
+    {0xB1, "PCI Express 3"},
+    {0xB2, "PCI Express 3 x1"},
+    {0xB3, "PCI Express 3 x2"},
+    {0xB4, "PCI Express 3 x4"},
+    {0xB5, "PCI Express 3 x8"},
+    {0xB6, "PCI Express 3 x16"},
+    {0xB8, "PCI Express 4"},
+    {0xB9, "PCI Express 4 x1"},
+    {0xBA, "PCI Express 4 x2"},
+    {0xBB, "PCI Express 4 x4"},
+    {0xBC, "PCI Express 4 x8"},
+    {0xBD, "PCI Express 4 x16"},
+    {0xBE, "PCI Express 5"},
+    {0xBF, "PCI Express 5 x1"},
+    {0xC0, "PCI Express 5 x2"},
+    {0xC1, "PCI Express 5 x4"},
+    {0xC2, "PCI Express 5 x8"},
+    {0xC3, "PCI Express 5 x16"},
+    {0xC4, "PCI Express 6+"},
+    {0xC5, "EDSFF E1"},
+    {0xC6, "EDSFF E3"},
+});
+
+/// How a slot's width stands in front of its type.
+inline constexpr auto kSlotWidths = WordsOf({
+    {0x01, ""},
+    {0x02, ""},
+    {0x03, "8-bit "},
+    {0x04, "16-bit "},
+    {0x05, "32-bit "},
+    {0x06, "64-bit "},
+    {0x07, "128-bit "},
+    {0x08, "x1 "},
+    {0x09, "x2 "},
+    {0x0A, "x4 "},
+    {0x0B, "x8 "},
+    {0x0C, "x12 "},
+    {0x0D, "x16 "},
+    {0x0E, "x32 "},
+});
+
+inline constexpr auto kSlotPhysicalWidths = WordsOf({
+    {0x01, "Other"},
+    {0x02, "Unknown"},
+    {0x03, "8-bit"},
+    {0x04, "16-bit"},
+    {0x05, "32-bit"},
+    {0x06, "64-bit"},
+    {0x07, "128-bit"},
+    {0x08, "x1"},
+    {0x09, "x2"},
+    {0x0A, "x4"},
+    {0x0B, "x8"},
+    {0x0C, "x12"},
+    {0x0D, "x16"},
+    {0x0E, "x32"},
+});
+
+inline constexpr auto kSlotUsages = WordsOf({
+    {0x01, "Other"},
+    {0x02, "Unknown"},
+    {0x03, "Available"},
+    {0x04, "In Use"},
+    {0x05, "Unavailable"},
+});
+
+inline constexpr auto kSlotLengths = WordsOf({
+    {0x01, "Other"},
+    {0x02, "Unknown"},
+    {0x03, "Short"},
+    {0x04, "Long"},
+    {0x05, "2.5\" drive form factor"},
+    {0x06, "3.5\" drive form factor"},
+});
+
+inline constexpr auto kSlotCharacteristics1 = WordsOf({
+    {0, "Unknown"},
+    {1, "5.0 V is provided"},
+    {2, "3.3 V is provided"},
+    {3, "Opening is shared"},
+    {4, "PC Card-16 is supported"},
+    {5, "Cardbus is supported"},
+    {6, "Zoom Video is supported"},
+    {7, "Modem ring resume is supported"},
+});
+
+inline constexpr auto kSlotCharacteristics2 = WordsOf({
+    {0, "PME signal is supported"},
+    {1, "Hot-plug devices are supported"},
+    {2, "SMBus signal is supported"},
+    {3, "PCIe slot bifurcation is supported"},
+    {4, "Async/surprise removal is supported"},
+    {5, "Flexbus slot, CXL 1.0 capable"},
+    {6, "Flexbus slot, CXL 2.0 capable"},
+    {7, "Flexbus slot, CXL 3.0 capable"},
+});
+
+inline constexpr auto kSlotHeights = WordsOf({
+    {0x00, "Not applicable"},
+    {0x01, "Other"},
+    {0x02, "Unknown"},
+    {0x03, "Full height"},
+    {0x04, "Low-profile"},
+});
+
+}  // namespace SMBIOS::Inspect::Standard
