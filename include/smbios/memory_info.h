@@ -11,8 +11,9 @@ namespace SMBIOS::Parsers {
 /// The memory devices of this machine, one row for each serial number, in ascending order.
 ///
 /// A row is not a slot: a device without a serial number, and every device behind it in the table, is listed
-/// only as WMI reports it, and not at all where there is no WMI; of several with one serial number the first
-/// is listed. `smbios-inspect structures --type 17` shows every device of the table.
+/// only as WMI reports it, and not at all without WMI: on Linux, or where PowerShell does not answer. Of
+/// several with one serial number the first is listed. `smbios-inspect structures --type 17` shows every
+/// device of the table.
 ///
 /// Create an object, call `RetrieveInfo` once, then read the rows 0 to `GetMemoryDeviceCount() - 1`. A number
 /// that is absent, or whose index is out of range, is the all-ones value of its type (255, 65535, 4294967295,
@@ -24,12 +25,20 @@ namespace SMBIOS::Parsers {
 ///
 /// Objects of both classes may be used on different threads in every combination. One object takes no lock of
 /// its own: its `RetrieveInfo` must not run while another thread uses the same object.
+///
+/// PowerShell is the one that the system finds, and while it hangs, `RetrieveInfo` does not return: a host
+/// that must not hang calls it in a process of its own and ends that one. A child that was forked during a
+/// `RetrieveInfo` must not call any. Threads that call it are joined before `main` returns or the DLL is
+/// freed.
 class SMBIOS_EXPORT MemoryInfo {
 public:
     /// No rows yet. Throws std::bad_alloc.
     MemoryInfo();
+
+    /// Frees the rows, and with them every text and all raw data.
     virtual ~MemoryInfo();
 
+    /// An object is not copied: callers hold pointers into it.
     MemoryInfo(const MemoryInfo&) = delete;
     MemoryInfo& operator=(const MemoryInfo&) = delete;
 
@@ -76,6 +85,7 @@ public:
     /// Fastest speed the device is capable of, in MT/s.
     std::uint32_t GetSpeed(std::size_t index) const noexcept;
 
+    /// Who made the module, and its numbers. The serial number is the key of its row.
     const char* GetManufacturer(std::size_t index) const noexcept;
     const char* GetSerialNumber(std::size_t index) const noexcept;
     const char* GetAssetTag(std::size_t index) const noexcept;
@@ -100,6 +110,7 @@ public:
     std::uint16_t GetMemoryOperatingModeCapability(std::size_t index) const noexcept;
     const char* GetStringifiedMemoryOperatingModeCapability(std::size_t index) const;
 
+    /// Version of the firmware on the module.
     const char* GetFirmwareVersion(std::size_t index) const noexcept;
 
     /// Parts of the device's size by their use, in bytes.

@@ -12,8 +12,8 @@ namespace SMBIOS::Parsers {
 ///
 /// A row is not a socket: of several processors with one id, which identical processors have, only the first
 /// is listed. A processor that could not be decoded has no id: it, and every processor behind it in the
-/// table, is listed only as WMI reports it, and not at all where there is no WMI. `smbios-inspect structures
-/// --type 4` shows every socket of the table.
+/// table, is listed only as WMI reports it, and not at all without WMI: on Linux, or where PowerShell does
+/// not answer. `smbios-inspect structures --type 4` shows every socket of the table.
 ///
 /// Create an object, call `RetrieveInfo` once, then read the rows 0 to `GetCPUCount() - 1`. A number that is
 /// absent, or whose index is out of range, is the all-ones value of its type (255, 65535,
@@ -26,12 +26,20 @@ namespace SMBIOS::Parsers {
 ///
 /// Objects of both classes may be used on different threads in every combination. One object takes no lock of
 /// its own: its `RetrieveInfo` must not run while another thread uses the same object.
+///
+/// PowerShell is the one that the system finds, and while it hangs, `RetrieveInfo` does not return: a host
+/// that must not hang calls it in a process of its own and ends that one. A child that was forked during a
+/// `RetrieveInfo` must not call any. Threads that call it are joined before `main` returns or the DLL is
+/// freed.
 class SMBIOS_EXPORT ProcessorInfo {
 public:
     /// No rows yet. Throws std::bad_alloc.
     ProcessorInfo();
+
+    /// Frees the rows, and with them every text and all raw data.
     virtual ~ProcessorInfo();
 
+    /// An object is not copied: callers hold pointers into it.
     ProcessorInfo(const ProcessorInfo&) = delete;
     ProcessorInfo& operator=(const ProcessorInfo&) = delete;
 
@@ -48,6 +56,7 @@ public:
     const char* GetVersion(std::size_t index) const noexcept;
     const char* GetManufacturer(std::size_t index) const noexcept;
 
+    /// Name of the socket on the board, for example "CPU0".
     const char* GetSocketDesignation(std::size_t index) const noexcept;
 
     /// Known to WMI only, for example "CPU0".
@@ -83,6 +92,7 @@ public:
     std::uint16_t GetMaxSpeedInMHz(std::size_t index) const noexcept;
     std::uint16_t GetCurrentSpeedInMHz(std::size_t index) const noexcept;
 
+    /// Whether there is a processor in the socket.
     EBOOL IsSocketPopulated(std::size_t index) const noexcept;
 
     /// Status as a text like "CPU Enabled"; nullptr also for a status without a text.
@@ -102,6 +112,7 @@ public:
     std::uint64_t GetL2CacheSizeInKB(std::size_t index) const noexcept;
     std::uint64_t GetL3CacheSizeInKB(std::size_t index) const noexcept;
 
+    /// Numbers that the processor's maker and its owner have given it. None of them is the key of its row.
     const char* GetSerialNumber(std::size_t index) const noexcept;
     const char* GetAssetTag(std::size_t index) const noexcept;
     const char* GetPartNumber(std::size_t index) const noexcept;
@@ -112,6 +123,7 @@ public:
     std::uint16_t GetThreadCount(std::size_t index) const noexcept;
     std::uint16_t GetEnabledThreadCount(std::size_t index) const noexcept;
 
+    /// Type of the socket as the firmware writes it; tables have it from 3.8.0 on.
     const char* GetSocketType(std::size_t index) const noexcept;
 
     /// Widths in bits, as WMI reports them.

@@ -12,6 +12,7 @@ struct SMBIOS_EXPORT EBOOL {
     bool value = false;  ///< the flag; false until set
     bool isSet = false;  ///< true once a value was assigned from a `bool`
 
+    /// False and unset. A copy is set if its source is.
     EBOOL() noexcept;
     EBOOL(const EBOOL&) noexcept = default;
     EBOOL(EBOOL&&) noexcept = default;
@@ -39,6 +40,7 @@ struct SMBIOS_EXPORT PROCESSOR_CHARACTERISTICS {
     EBOOL capable128bit;                  ///< bit 8
     EBOOL arm64SoC_ID;                    ///< bit 9
 
+    /// Nothing set. A copy has what its source has.
     PROCESSOR_CHARACTERISTICS() noexcept;
     PROCESSOR_CHARACTERISTICS(const PROCESSOR_CHARACTERISTICS&) noexcept = default;
     PROCESSOR_CHARACTERISTICS(PROCESSOR_CHARACTERISTICS&&) noexcept = default;
@@ -64,6 +66,7 @@ struct SMBIOS_EXPORT MEMORY_TYPE_DETAILS {
     EBOOL registered;                  ///< bit 13
     EBOOL unbuffered;                  ///< bit 14
 
+    /// Nothing set. A copy has what its source has.
     MEMORY_TYPE_DETAILS() noexcept;
     MEMORY_TYPE_DETAILS(const MEMORY_TYPE_DETAILS&) noexcept = default;
     MEMORY_TYPE_DETAILS(MEMORY_TYPE_DETAILS&&) noexcept = default;
