@@ -24,6 +24,12 @@ TEST(Readme, ShowsTheExampleThatIsBuilt) {
     ExpectShown("cpp", SMBIOS_SOURCE_DIR "/examples/list_memory.cpp");
 }
 
+TEST(Readme, SaysRightBehindItThatARowIsNotASlot) {
+    const std::string example = ContentsOf(SMBIOS_SOURCE_DIR "/examples/list_memory.cpp");
+    const std::string readme = ContentsOf(SMBIOS_SOURCE_DIR "/README.md");
+    EXPECT_NE(readme.find(example + "```\n\n**A row is not a slot.**"), std::string::npos);
+}
+
 TEST(Readme, ShowsTheExampleInC) {
     ExpectShown("c", SMBIOS_SOURCE_DIR "/examples/report_memory.c");
 }
