@@ -10,7 +10,8 @@ _smbios_inspect_value() {
     local option=$1 word=$2
     case $option in
         --from) _smbios_inspect_files "$word" ;;
-        --type) mapfile -t COMPREPLY < <(compgen -W "$(echo {0..43})" -- "$word") ;;
+        --type) mapfile -t COMPREPLY < <(compgen -W "$(echo {0..48})" -- "$word") ;;
+        --handle) COMPREPLY=() ;;
         *) return 1 ;;
     esac
 }
@@ -19,6 +20,7 @@ _smbios_inspect_options() {
     case $1 in
         memory | processors) echo --from --json ;;
         structures) echo --from --json --type ;;
+        firmware) echo --from --handle --json --quiet --type ;;
         save) echo --from --force ;;
         summary) echo --from ;;
         *) echo --from --help --version ;;
@@ -40,7 +42,7 @@ _smbios_inspect() {
 
     for ((i = 1; i < COMP_CWORD; ++i)); do
         case ${COMP_WORDS[i]} in
-            --from | --type) [[ ${COMP_WORDS[i + 1]} == = ]] && ((++i)); ((++i)) ;;
+            --from | --type | --handle) [[ ${COMP_WORDS[i + 1]} == = ]] && ((++i)); ((++i)) ;;
             -*) ;;
             *) command=${COMP_WORDS[i]}; break ;;
         esac
@@ -49,7 +51,7 @@ _smbios_inspect() {
     if [[ $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_smbios_inspect_options "$command")" -- "$word")
     elif [[ -z $command ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "summary memory processors structures save" -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W "summary memory processors structures firmware save" -- "$word")
     elif [[ $command == save ]]; then
         _smbios_inspect_files "$word"
     fi
