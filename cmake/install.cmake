@@ -62,6 +62,6 @@ set(documents_dir "${CMAKE_INSTALL_DOCDIR}")
 if(WIN32)
     set(documents_dir "${CMAKE_INSTALL_BINDIR}")
 endif()
-install(FILES README.md CHANGELOG.md LICENSE DESTINATION "${documents_dir}" COMPONENT development)
+install(FILES README.md CHANGELOG.md SECURITY.md LICENSE DESTINATION "${documents_dir}" COMPONENT development)
 install(DIRECTORY docs examples DESTINATION "${documents_dir}" COMPONENT development
         PATTERN CMakeLists.txt EXCLUDE PATTERN "*.1" EXCLUDE)

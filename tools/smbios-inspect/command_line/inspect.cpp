@@ -9,12 +9,12 @@
 #include "smbios-inspect/command_line/save.h"
 #include "smbios-inspect/command_line/table_input.h"
 #include "smbios-inspect/output/text_layout.h"
+#include "smbios-inspect/reports/firmware_report.h"
 #include "smbios-inspect/reports/memory_report.h"
 #include "smbios-inspect/reports/processors_report.h"
 #include "smbios-inspect/reports/structures_report.h"
 #include "smbios-inspect/reports/summary_report.h"
 #include "smbios-inspect/reports/table_end.h"
-#include "smbios-inspect/standard/firmware_report.h"
 
 namespace SMBIOS::Inspect {
 

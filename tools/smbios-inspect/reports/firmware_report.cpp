@@ -1,4 +1,4 @@
-#include "smbios-inspect/standard/firmware_report.h"
+#include "smbios-inspect/reports/firmware_report.h"
 
 #include <ostream>
 #include <string>
