@@ -72,7 +72,7 @@ class MeetAtAllocations final : public AllocationHook {
 public:
     explicit MeetAtAllocations(MeetingPoint& meetingPoint) noexcept : meetingPoint_(meetingPoint) {}
 
-    void BeforeAllocation() override { meetingPoint_.Arrive(); }
+    void BeforeAllocation(std::size_t) override { meetingPoint_.Arrive(); }
 
 private:
     MeetingPoint& meetingPoint_;

@@ -11,13 +11,13 @@ namespace {
 
 constinit thread_local AllocationHook* currentHook = nullptr;
 
-void RunHook() {
+void RunHook(std::size_t size) {
     AllocationHook* const hook = std::exchange(currentHook, nullptr);
     if (hook == nullptr) {
         return;
     }
     try {
-        hook->BeforeAllocation();
+        hook->BeforeAllocation(size);
     } catch (...) {
         currentHook = hook;
         throw;
@@ -27,7 +27,7 @@ void RunHook() {
 
 void* Allocate(std::size_t size) {
     constexpr int kRubbish = 0xA5;
-    RunHook();
+    RunHook(size);
     void* const memory = std::malloc(size == 0 ? 1 : size);
     if (memory == nullptr) {
         throw std::bad_alloc();

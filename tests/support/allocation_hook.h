@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 namespace SMBIOS::Tests {
 
 /// Runs before every `new` of the thread that made it, while it lives; of several the latest. The test
@@ -10,8 +12,9 @@ public:
     AllocationHook(const AllocationHook&) = delete;
     AllocationHook& operator=(const AllocationHook&) = delete;
 
-    /// Makes the allocation fail by throwing std::bad_alloc. What it allocates itself passes by.
-    virtual void BeforeAllocation() = 0;
+    /// Makes the allocation of `size` bytes fail by throwing std::bad_alloc. What it allocates itself passes
+    /// by.
+    virtual void BeforeAllocation(std::size_t size) = 0;
 
 protected:
     AllocationHook() noexcept;

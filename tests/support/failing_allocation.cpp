@@ -4,7 +4,7 @@
 
 namespace SMBIOS::Tests {
 
-void FailAllocation::BeforeAllocation() {
+void FailAllocation::BeforeAllocation(std::size_t) {
     ++count_;
     if (count_ == n_ || (count_ > n_ && failing_ == Failing::fromThenOn)) {
         throw std::bad_alloc();

@@ -17,7 +17,7 @@ public:
     explicit FailAllocation(std::size_t n, Failing failing = Failing::once) noexcept
         : n_(n), failing_(failing) {}
 
-    void BeforeAllocation() override;
+    void BeforeAllocation(std::size_t size) override;
 
     /// Whether an allocation has failed: once it has not, `n` is larger than their number.
     [[nodiscard]] bool HasFailed() const noexcept { return count_ >= n_; }
