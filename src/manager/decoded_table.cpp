@@ -1,5 +1,6 @@
 #include "manager/decoded_table.h"
 
+#include <new>
 #include <optional>
 #include <utility>
 
@@ -36,11 +37,16 @@ void FileStructures(std::span<const std::uint8_t> structureTable,
                     SmbiosVersionIndex version,
                     FiledStructures& structures) {
     StructureWalk walk(structureTable);
+    bool ranOutOfMemory = false;
     while (std::optional<RawStructure> structure = walk.Next()) {
         auto [key, decoder] =
             Structures::StructureFactory::CreateTablePtr(Types::StructureTypes{structure->type}, version);
         decoder->Process(structure->formattedBytes, structure->strings);
+        ranOutOfMemory = ranOutOfMemory || decoder->RanOutOfMemory();
         structures.emplace(key, std::move(decoder));
+    }
+    if (ranOutOfMemory) {
+        throw std::bad_alloc();
     }
 }
 

@@ -30,8 +30,9 @@ struct TableVersion {
     [[nodiscard]] static TableVersion Of(std::span<const std::uint8_t> rawTable, SmbiosVersionIndex unlisted);
 };
 
-/// Walks the structures of a table and files a decoder for each. What was filed before an allocation failed
-/// stays. Throws std::bad_alloc; a structure that cannot be decoded tells so in its record.
+/// Walks the structures of a table and files a decoder for each. A structure that cannot be decoded tells so
+/// in its record. Throws std::bad_alloc when any allocation failed, also one that a decoder recorded; what
+/// was filed until then stays.
 void FileStructures(std::span<const std::uint8_t> structureTable,
                     SmbiosVersionIndex version,
                     FiledStructures& structures);

@@ -32,6 +32,15 @@ public:
     /// Makes a fresh record, checks the formatted area against the table's version and stores the handle.
     /// Called by `Process`; throws what `Process` records.
     virtual void Parse(const std::vector<std::uint8_t>& formattedBytes) = 0;
+
+    /// Whether an allocation failed in `Process`, so that the record lacks what the table has.
+    [[nodiscard]] bool RanOutOfMemory() const noexcept { return ranOutOfMemory_; }
+
+protected:
+    void NoteOutOfMemory() noexcept { ranOutOfMemory_ = true; }
+
+private:
+    bool ranOutOfMemory_ = false;
 };
 
 }  // namespace SMBIOS::Structures

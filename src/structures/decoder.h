@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <exception>
 #include <memory>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,11 +35,14 @@ public:
 
     void Process(const std::vector<std::uint8_t>& formattedBytes,
                  const std::vector<std::string>& strings) final {
+        StructureReader in(formattedBytes, strings, version_);
         const bool decoded = Attempt([&] {
             this->Parse(formattedBytes);
-            StructureReader in(formattedBytes, strings, version_);
             Type::DecodeFieldsInOrder(in, *record_);
         });
+        if (in.HasLostText()) {
+            NoteOutOfMemory();
+        }
         if (KeepsStrings(Type::kRules.strings, decoded, strings.empty())) {
             Attempt([&] { record_->strings = strings; });
         }
@@ -73,6 +77,9 @@ private:
         try {
             step();
             return true;
+        } catch (const std::bad_alloc& failure) {
+            NoteOutOfMemory();
+            RecordFailure(failure.what());
         } catch (const std::exception& failure) {
             RecordFailure(failure.what());
         } catch (...) {

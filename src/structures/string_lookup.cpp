@@ -1,7 +1,6 @@
 #include "structures/string_lookup.h"
 
 #include <exception>
-#include <string_view>
 
 namespace SMBIOS::Structures {
 
@@ -20,12 +19,13 @@ std::string_view Trimmed(std::string_view text) noexcept {
 
 }  // namespace
 
+std::string_view FindString(std::uint8_t number, const std::vector<std::string>& strings) noexcept {
+    return number == 0 || number > strings.size() ? std::string_view{} : Trimmed(strings[number - 1U]);
+}
+
 std::string GetStringByIndex(std::uint8_t number, const std::vector<std::string>& strings) {
-    if (number == 0 || number > strings.size()) {
-        return {};
-    }
     try {
-        return std::string(Trimmed(strings[number - 1U]));
+        return std::string(FindString(number, strings));
     } catch (const std::exception&) {
         return {};  // a text that cannot be copied is reported like a missing one
     }

@@ -2,12 +2,17 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace SMBIOS::Structures {
 
 /// String `number` of a structure's string set, counted from 1, without the white space around it. Empty for
-/// number 0, for a number the set does not hold, and when there is no memory for the copy.
+/// number 0 and for a number the set does not hold. A view: valid only while the strings are.
+[[nodiscard]] std::string_view FindString(std::uint8_t number,
+                                          const std::vector<std::string>& strings) noexcept;
+
+/// A copy of the same; empty, too, when there is no memory for it.
 [[nodiscard]] std::string GetStringByIndex(std::uint8_t number, const std::vector<std::string>& strings);
 
 }  // namespace SMBIOS::Structures

@@ -5,7 +5,11 @@
 namespace SMBIOS::Structures {
 
 std::string StructureReader::String(std::size_t offset) const {
-    return GetStringByIndex(Byte(offset), strings_);
+    std::string text = GetStringByIndex(Byte(offset), strings_);
+    if (text.empty() && !FindString(Byte(offset), strings_).empty()) {
+        NoteLostText();
+    }
+    return text;
 }
 
 void StructureReader::OverwriteByte(std::size_t offset, std::uint8_t value) noexcept {

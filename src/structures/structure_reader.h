@@ -26,8 +26,14 @@ public:
         return version_ >= version;
     }
 
-    /// The string whose number stands at `offset`, trimmed; empty when there is no such string.
+    /// The string whose number stands at `offset`, trimmed; empty when there is no such string, and when
+    /// there is no memory for it, which is noted.
     [[nodiscard]] std::string String(std::size_t offset) const;
+
+    /// Notes that a text of the structure is reported as empty because there was no memory for it.
+    void NoteLostText() const noexcept { hasLostText_ = true; }
+
+    [[nodiscard]] bool HasLostText() const noexcept { return hasLostText_; }
 
     /// Writes into the bytes given to `Process`, so that the raw bytes kept afterwards show `value`. Nothing
     /// happens past the formatted area.
@@ -37,6 +43,7 @@ private:
     const std::vector<std::uint8_t>& formattedBytes_;
     const std::vector<std::string>& strings_;
     const Manager::SmbiosVersionIndex version_;
+    mutable bool hasLostText_ = false;
 };
 
 }  // namespace SMBIOS::Structures

@@ -51,6 +51,7 @@ std::string UuidOf(const StructureReader& in) {
                               in.Byte(0x16),
                               in.Byte(0x17));
     } catch (const std::exception&) {
+        in.NoteLostText();
         return {};  // a text that cannot be made is reported like a missing one
     }
 }

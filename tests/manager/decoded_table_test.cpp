@@ -3,14 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <exception>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "manager/decoded_records.h"
+#include "platform/file_bytes.h"
 #include "structures/type_17.h"
 #include "structures/unknown_type.h"
 #include "tests/support/decode.h"
+#include "tests/support/failing_allocation.h"
 
 // Decoding is a function of its arguments: any number of tables can be decoded in one process.
 namespace SMBIOS::Tests {
@@ -101,6 +104,31 @@ TEST(DecodedTable, DecodingLeavesTheProcesssOwnVersionAlone) {
     Manager::currentVersionIndex = v2_6_1;
     (void)DecodeTable(DeviceTable(4, 1));
     EXPECT_EQ(Manager::currentVersionIndex, v2_6_1);
+}
+
+enum class Outcome { failed, unnoticed, unaffected };
+
+/// Decodes while allocations fail from the `n`-th on, or it alone.
+Outcome DecodeWithoutMemory(const std::vector<std::uint8_t>& rawTable, std::size_t n, Failing failing) {
+    const FailAllocation after(n, failing);
+    try {
+        (void)DecodeTable(rawTable);
+    } catch (const std::bad_alloc&) {
+        return Outcome::failed;
+    }
+    return after.HasFailed() ? Outcome::unnoticed : Outcome::unaffected;
+}
+
+TEST(DecodedTable, NoAllocationThatFailsGoesUnnoticed) {
+    const std::vector<std::uint8_t> rawTable = Platform::ReadFileBytes(SMBIOS_SAMPLE_TABLE).bytes;
+    for (const Failing failing : {Failing::once, Failing::fromThenOn}) {
+        std::size_t n = 1;
+        while (DecodeWithoutMemory(rawTable, n, failing) == Outcome::failed) {
+            ++n;
+        }
+        EXPECT_EQ(DecodeWithoutMemory(rawTable, n, failing), Outcome::unaffected) << "allocation " << n;
+        EXPECT_GT(n, 200U);
+    }
 }
 
 TEST(DecodedTable, ADecoderOutlivesItsTable) {

@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "manager/smbios_version.h"
+#include "structures/type_1.h"
 #include "structures/type_17.h"
 #include "structures/unknown_type.h"
 #include "tests/support/allocation_hook.h"
@@ -22,6 +23,7 @@ namespace {
 
 using Manager::SmbiosManager;
 using Manager::Types::StructureTypes;
+using Structures::Type_1;
 using Structures::Type_17;
 using Structures::UnknownType;
 
@@ -39,16 +41,22 @@ std::string TextOfFailedLoad() {
     return "";
 }
 
-/// Tries a load whose allocations fail from the `n`-th on; tells whether it needed fewer.
-bool LoadsWithMemoryFor(std::size_t n) {
+/// Tries a load whose allocations fail from the `n`-th on, or it alone; tells whether it needed fewer.
+bool LoadsWithMemoryFor(std::size_t n, Failing failing = Failing::fromThenOn) {
     SmbiosManager& manager = TheManager();
-    const FailAllocation after(n, Failing::fromThenOn);
+    const FailAllocation after(n, failing);
     try {
         manager.UpdateBiosInfo();
     } catch (const std::bad_alloc&) {
         return false;
     }
-    return true;
+    return !after.HasFailed();
+}
+
+/// The record of the one structure filed under `key`.
+template <class Type>
+auto TheRecordOf(StructureTypes key) {
+    return std::dynamic_pointer_cast<Type>(TheManager().GetStructuresByType(key).at(0))->GetRecord();
 }
 
 StructureBuilder MemoryDevice(std::uint16_t handle) {
@@ -210,6 +218,25 @@ TEST(SmbiosManager, ALoadThatFailsPartWayLeavesNothingBehindForTheNext) {
     }
     EXPECT_TRUE(sawSomeFiled);
     EXPECT_EQ(HandlesOf(StructureTypes::MemoryDevice), handles);
+}
+
+TEST(SmbiosManager, AnAllocationThatFailsFailsTheLoadAndLeavesNoTraceInTheNext) {
+    const FakeFirmwareTable firmware(
+        TableBuilder(2, 8, 0)
+            .Add(StructureBuilder(1, 0x1B).String(0x04, "A manufacturer of some length"))
+            .Add(MemoryDevice(1).String(0x18, "A serial number of some length"))
+            .RawTable());
+    std::size_t n = 1;
+    while (!LoadsWithMemoryFor(n, Failing::once)) {
+        ++n;
+    }
+    EXPECT_GT(n, 20U);
+    const auto device = TheRecordOf<Type_17>(StructureTypes::MemoryDevice);
+    EXPECT_EQ(device->error, "");
+    EXPECT_EQ(device->serialNumber, "A serial number of some length");
+    const auto system = TheRecordOf<Type_1>(StructureTypes::SystemInformation);
+    EXPECT_EQ(system->manufacturer, "A manufacturer of some length");
+    EXPECT_EQ(system->uuid, "00000000-0000-0000-0000-000000000000");
 }
 
 TEST(SmbiosManager, ThePlatformIsGivenABufferOfZeros) {

@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <stdexcept>
 
 #include "structures/structure_record.h"
 #include "structures/unknown_type.h"
 #include "tests/support/decode.h"
+#include "tests/support/failing_allocation.h"
 
 namespace SMBIOS::Tests {
 namespace {
@@ -142,6 +144,51 @@ TEST(Decoder, NeverKeepsAnEmptyStringSetWhereTheRuleSaysSo) {
     EXPECT_FALSE(DecodeBytes<PresentType>(v2_0_0, kGood, {})->strings);
     EXPECT_EQ(DecodeBytes<PresentType>(v2_0_0, kGood, {"text"})->strings, Strings{"text"});
     EXPECT_EQ(DecodeBytes<PresentType>(v2_0_0, kFailing, {"text"})->strings, Strings{"text"});
+}
+
+/// Reads a text that needs an allocation, and fails to allocate where byte 4 says so.
+class TextType final : public Decoder<TextType, StructureRecord> {
+    friend Decoder<TextType, StructureRecord>;
+
+public:
+    using Decoder<TextType, StructureRecord>::Decoder;
+    static inline std::string text;
+
+private:
+    static constexpr ParseRules kRules = {};
+    static void DecodeFieldsInOrder(StructureReader& in, StructureRecord&) {
+        if (in.Byte(0x04) == 1) {
+            throw std::bad_alloc();
+        }
+        const FailAllocation after(in.Byte(0x04) == 2 ? 1 : 2);
+        text = in.String(0x05);
+    }
+};
+
+const Strings kLongText = {"a text that is longer than what fits into a string object"};
+
+TEST(Decoder, AFailedAllocationIsRecordedAndKnown) {
+    TextType decoder(v2_0_0);
+    decoder.Process({99, 6, 0x34, 0x12, 1, 1}, kLongText);
+    EXPECT_EQ(decoder.GetRecord()->error, "std::bad_alloc");
+    EXPECT_TRUE(decoder.RanOutOfMemory());
+}
+
+TEST(Decoder, ATextThatIsLostToAFailedAllocationIsKnown) {
+    TextType decoder(v2_0_0);
+    decoder.Process({99, 6, 0x34, 0x12, 2, 1}, kLongText);
+    EXPECT_EQ(TextType::text, "");
+    EXPECT_EQ(decoder.GetRecord()->error, "");
+    EXPECT_TRUE(decoder.RanOutOfMemory());
+}
+
+TEST(Decoder, WithoutAFailedAllocationHasNotRunOutOfMemory) {
+    TextType decoder(v2_0_0);
+    decoder.Process({99, 6, 0x34, 0x12, 0, 1}, kLongText);
+    EXPECT_EQ(TextType::text, kLongText.front());
+    EXPECT_FALSE(decoder.RanOutOfMemory());
+    decoder.Process({99, 3, 0x34}, {});
+    EXPECT_FALSE(decoder.RanOutOfMemory());
 }
 
 TEST(UnknownType, KeepsTypeHandleStringsAndRawBytes) {
