@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -43,6 +44,13 @@ public:
             bytes[i] = Byte(offset + i);
         }
         return bytes;
+    }
+
+    /// Those of the `count` bytes from `offset` on that there are.
+    [[nodiscard]] std::span<const std::uint8_t> ExistingBytes(std::size_t offset,
+                                                              std::size_t count) const noexcept {
+        const auto rest = bytes_.subspan(std::min(offset, bytes_.size()));
+        return rest.first(std::min(count, rest.size()));
     }
 
 private:

@@ -1,5 +1,7 @@
 #include "structures/type_3.h"
 
+#include <algorithm>
+#include <span>
 #include <utility>
 
 #include "manager/board_type_names.h"
@@ -8,7 +10,7 @@
 namespace SMBIOS::Structures {
 
 using Manager::kBoardTypeNames;
-using Type3::Types::ContainedElement;
+using Type3::Types::ContainedElements;
 using Type3::Types::Type3Struct;
 
 namespace {
@@ -92,28 +94,14 @@ std::size_t SkuNumberOffset(const StructureReader& in) {
     return recordLength * count + kElementsOffset;
 }
 
-ContainedElement ElementAt(const StructureReader& in, std::size_t offset) {
-    const std::uint8_t type = LowSevenBits(in.Byte(offset));
-    return {
-        .typeValue = type,
-        .typeSelect = HasTopBit(in.Byte(offset)) ? "Structure" : "Baseboard",
-        .typeName = std::string(kBoardTypeNames[type]),  // departs from the standard: structure types too
-        .minimum = in.Byte(offset + 1),
-        .maximum = in.Byte(offset + 2),
-    };
-}
-
 /// Departs from the standard: records are 3 bytes apart whatever the record length, even past the structure.
-std::optional<std::vector<ContainedElement>> ContainedElementsOf(const StructureReader& in) {
-    if (in.Length() < kLengthWithElements) {
+std::optional<ContainedElements> ContainedElementsOf(const StructureReader& in) {
+    const std::size_t count = (SkuNumberOffset(in) - kElementsOffset) / kElementSize;
+    if (in.Length() < kLengthWithElements || count == 0) {
         return std::nullopt;
     }
-    std::vector<ContainedElement> elements;
-    const std::size_t end = SkuNumberOffset(in);
-    for (std::size_t offset = kElementsOffset; offset + kElementSize <= end; offset += kElementSize) {
-        elements.push_back(ElementAt(in, offset));
-    }
-    return elements.empty() ? std::nullopt : std::optional(std::move(elements));
+    const std::span<const std::uint8_t> bytes = in.ExistingBytes(kElementsOffset, count * kElementSize);
+    return ContainedElements(count, {bytes.begin(), bytes.end()});
 }
 
 /// Departs from the standard: only where the structure has an element and ends with the number of this text.
@@ -124,6 +112,28 @@ std::string SkuNumberOf(const StructureReader& in) {
 }
 
 }  // namespace
+
+namespace Type3::Types {
+
+ContainedElements::ContainedElements(std::size_t count, std::vector<std::uint8_t> bytes)
+    : count_(count), bytes_(std::move(bytes)) {}
+
+std::size_t ContainedElements::CountWithinStructure() const noexcept {
+    return std::min(count_, (bytes_.size() + kElementSize - 1) / kElementSize);
+}
+
+ContainedElement ContainedElements::At(std::size_t index) const noexcept {
+    const auto [type, minimum, maximum] = FormattedArea(bytes_).Bytes<kElementSize>(index * kElementSize);
+    return {
+        .typeValue = LowSevenBits(type),
+        .typeSelect = HasTopBit(type) ? "Structure" : "Baseboard",
+        .typeName = kBoardTypeNames[LowSevenBits(type)],  // departs from the standard: structure types too
+        .minimum = minimum,
+        .maximum = maximum,
+    };
+}
+
+}  // namespace Type3::Types
 
 constinit const ParseRules Type_3::kRules = {.lengths = LengthAtLeast(0x09), .gates = kGates};
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "structures/decoder.h"
@@ -15,10 +17,31 @@ namespace Type3::Types {
 /// A kind of element that the chassis can contain, and how many of it.
 struct ContainedElement {
     std::uint8_t typeValue = 0;
-    std::string typeSelect;  ///< "Baseboard" or "Structure"
-    std::string typeName;
+    std::string_view typeSelect;  ///< "Baseboard" or "Structure"
+    std::string_view typeName;
     std::uint8_t minimum = 0;
     std::uint8_t maximum = 0;
+};
+
+/// The elements of a chassis. Of those past the structure's end, which may be thousands, nothing is kept.
+class ContainedElements {
+public:
+    ContainedElements() = default;
+
+    /// `count` elements, whose bytes begin with `bytes` and go on with zeros.
+    ContainedElements(std::size_t count, std::vector<std::uint8_t> bytes);
+
+    [[nodiscard]] std::size_t Count() const noexcept { return count_; }
+
+    /// The number of elements, the first ones, of which the structure has at least a byte.
+    [[nodiscard]] std::size_t CountWithinStructure() const noexcept;
+
+    /// Element `index`, from 0.
+    [[nodiscard]] ContainedElement At(std::size_t index) const noexcept;
+
+private:
+    std::size_t count_ = 0;
+    std::vector<std::uint8_t> bytes_;
 };
 
 /// Record of one system enclosure or chassis.
@@ -42,7 +65,7 @@ struct Type3Struct : StructureRecord {
     std::optional<std::uint8_t> height;  ///< units of 1.75 inch
     std::optional<std::uint8_t> numberOfPowerCords;
     std::string skuNumber;
-    std::optional<std::vector<ContainedElement>> containedElements;
+    std::optional<ContainedElements> containedElements;
 };
 
 }  // namespace Type3::Types

@@ -16,7 +16,7 @@ namespace {
 
 using Manager::SmbiosVersionIndex;
 using Structures::Type_3;
-using Structures::Type3::Types::ContainedElement;
+using Structures::Type3::Types::ContainedElements;
 
 constexpr std::uint16_t kHandle = 0x00D1;
 constexpr const char* kNewerThan200 = "v2.1.0 structure or later in a v2.0.0 BIOS";
@@ -193,39 +193,38 @@ TEST(Type3, FieldsPastAShortStructureReadAsZero) {
 
 // Contained elements
 
-using Elements = std::vector<ContainedElement>;
-
-std::optional<Elements> ElementsOf(const StructureBuilder& structure, SmbiosVersionIndex version = v2_3_0) {
+std::optional<ContainedElements> ElementsOf(const StructureBuilder& structure,
+                                            SmbiosVersionIndex version = v2_3_0) {
     return Decode<Type_3>(version, structure)->containedElements;
 }
 
 std::size_t ElementCountOf(std::uint8_t count, std::uint8_t recordLength) {
-    return ElementsOf(ChassisWithElements(24, count, recordLength)).value_or(Elements{}).size();
+    return ElementsOf(ChassisWithElements(24, count, recordLength)).value_or(ContainedElements{}).Count();
 }
 
 TEST(Type3, TwoElementsOf3BytesStandFrom15To1A) {
     const auto elements =
         ElementsOf(ChassisWithElements(28, 2, 3).Bytes(0x15, {0x0A, 1, 2, 0x08, 3, 4}), v2_7_0);
     ASSERT_TRUE(elements);
-    ASSERT_EQ(elements->size(), 2U);
-    EXPECT_EQ(elements->at(0).typeValue, 10);
-    EXPECT_EQ(elements->at(0).typeSelect, "Baseboard");
-    EXPECT_EQ(elements->at(0).typeName, "Motherboard");
-    EXPECT_EQ(elements->at(0).minimum, 1);
-    EXPECT_EQ(elements->at(0).maximum, 2);
-    EXPECT_EQ(elements->at(1).typeValue, 8);
-    EXPECT_EQ(elements->at(1).typeSelect, "Baseboard");
-    EXPECT_EQ(elements->at(1).typeName, "Memory Module");
-    EXPECT_EQ(elements->at(1).minimum, 3);
-    EXPECT_EQ(elements->at(1).maximum, 4);
+    ASSERT_EQ(elements->Count(), 2U);
+    EXPECT_EQ(elements->At(0).typeValue, 10);
+    EXPECT_EQ(elements->At(0).typeSelect, "Baseboard");
+    EXPECT_EQ(elements->At(0).typeName, "Motherboard");
+    EXPECT_EQ(elements->At(0).minimum, 1);
+    EXPECT_EQ(elements->At(0).maximum, 2);
+    EXPECT_EQ(elements->At(1).typeValue, 8);
+    EXPECT_EQ(elements->At(1).typeSelect, "Baseboard");
+    EXPECT_EQ(elements->At(1).typeName, "Memory Module");
+    EXPECT_EQ(elements->At(1).minimum, 3);
+    EXPECT_EQ(elements->At(1).maximum, 4);
 }
 
 TEST(Type3, ElementByte83IsAStructureWithABoardTypeName) {
     const auto elements = ElementsOf(ChassisWithElements(24, 1, 3).Byte(0x15, 0x83));
     ASSERT_TRUE(elements);
-    EXPECT_EQ(elements->at(0).typeSelect, "Structure");
-    EXPECT_EQ(elements->at(0).typeValue, 3);
-    EXPECT_EQ(elements->at(0).typeName, "Server Blade");
+    EXPECT_EQ(elements->At(0).typeSelect, "Structure");
+    EXPECT_EQ(elements->At(0).typeValue, 3);
+    EXPECT_EQ(elements->At(0).typeName, "Server Blade");
 }
 
 TEST(Type3, AStructureWithElementsIsRefusedInA220Table) {
@@ -247,12 +246,12 @@ TEST(Type3, TheLengthByteAndNotTheSizeDecidesAboutElements) {
 TEST(Type3, CountAndRecordLengthOfZeroGiveTheElementFrom15To17) {
     const auto elements = ElementsOf(ChassisWithElements(24, 0, 0).Bytes(0x15, {0x86, 7, 9}));
     ASSERT_TRUE(elements);
-    ASSERT_EQ(elements->size(), 1U);
-    EXPECT_EQ(elements->at(0).typeValue, 6);
-    EXPECT_EQ(elements->at(0).typeSelect, "Structure");
-    EXPECT_EQ(elements->at(0).typeName, "Processor Module");
-    EXPECT_EQ(elements->at(0).minimum, 7);
-    EXPECT_EQ(elements->at(0).maximum, 9);
+    ASSERT_EQ(elements->Count(), 1U);
+    EXPECT_EQ(elements->At(0).typeValue, 6);
+    EXPECT_EQ(elements->At(0).typeSelect, "Structure");
+    EXPECT_EQ(elements->At(0).typeName, "Processor Module");
+    EXPECT_EQ(elements->At(0).minimum, 7);
+    EXPECT_EQ(elements->At(0).maximum, 9);
 }
 
 TEST(Type3, ARecordLengthOfZeroStandsFor3) {
@@ -267,11 +266,11 @@ TEST(Type3, RecordsAre3BytesEachWhateverTheRecordLength) {
     const auto elements =
         ElementsOf(ChassisWithElements(29, 2, 4).Bytes(0x15, {3, 11, 12, 4, 21, 22, 5, 31}));
     ASSERT_TRUE(elements);
-    ASSERT_EQ(elements->size(), 2U);  // 8 bytes, the last two dropped
-    EXPECT_EQ(elements->at(0).typeValue, 3);
-    EXPECT_EQ(elements->at(1).typeValue, 4);
-    EXPECT_EQ(elements->at(1).minimum, 21);
-    EXPECT_EQ(elements->at(1).maximum, 22);
+    ASSERT_EQ(elements->Count(), 2U);  // 8 bytes, the last two dropped
+    EXPECT_EQ(elements->At(0).typeValue, 3);
+    EXPECT_EQ(elements->At(1).typeValue, 4);
+    EXPECT_EQ(elements->At(1).minimum, 21);
+    EXPECT_EQ(elements->At(1).maximum, 22);
 }
 
 TEST(Type3, LongRecordsGiveMoreElementsThanTheCount) {
@@ -291,16 +290,39 @@ TEST(Type3, ElementsWithoutAWholeRecordAreAbsent) {
 TEST(Type3, ElementsPastTheStructureReadAsZero) {
     const auto elements = ElementsOf(ChassisWithElements(24, 2, 3).Bytes(0x15, {10, 1, 2}));
     ASSERT_TRUE(elements);
-    ASSERT_EQ(elements->size(), 2U);
-    EXPECT_EQ(elements->at(1).typeValue, 0);
-    EXPECT_EQ(elements->at(1).typeSelect, "Baseboard");
-    EXPECT_EQ(elements->at(1).typeName, "");
-    EXPECT_EQ(elements->at(1).minimum, 0);
-    EXPECT_EQ(elements->at(1).maximum, 0);
+    ASSERT_EQ(elements->Count(), 2U);
+    EXPECT_EQ(elements->At(1).typeValue, 0);
+    EXPECT_EQ(elements->At(1).typeSelect, "Baseboard");
+    EXPECT_EQ(elements->At(1).typeName, "");
+    EXPECT_EQ(elements->At(1).minimum, 0);
+    EXPECT_EQ(elements->At(1).maximum, 0);
 }
 
-TEST(Type3, AllTheElementsAskedForAreProduced) {
+TEST(Type3, AllTheElementsAskedForAreCounted) {
     EXPECT_EQ(ElementCountOf(255, 255), 21675U);  // 65025 bytes
+}
+
+TEST(Type3, OnlyElementsWithAByteWithinTheStructureAreKept) {
+    const auto count = [](std::uint8_t length) {
+        return ElementsOf(ChassisWithElements(length, 255, 255))->CountWithinStructure();
+    };
+    EXPECT_EQ(count(24), 1U);
+    EXPECT_EQ(count(25), 2U);
+    EXPECT_EQ(count(27), 2U);
+    EXPECT_EQ(count(255), 78U);  // 234 bytes
+}
+
+TEST(Type3, NoMoreElementsAreKeptThanTheCount) {
+    EXPECT_EQ(ElementsOf(ChassisWithElements(255, 2, 3))->CountWithinStructure(), 2U);
+}
+
+TEST(Type3, AnElementCutShortByTheStructuresEndReadsOnAsZeros) {
+    const auto elements = ElementsOf(ChassisWithElements(25, 2, 3).Bytes(0x15, {10, 1, 2, 0x88}));
+    ASSERT_TRUE(elements);
+    EXPECT_EQ(elements->At(1).typeValue, 8);
+    EXPECT_EQ(elements->At(1).typeSelect, "Structure");
+    EXPECT_EQ(elements->At(1).minimum, 0);
+    EXPECT_EQ(elements->At(1).maximum, 0);
 }
 
 // SKU number
@@ -473,9 +495,9 @@ TEST(Type3, EveryElementTypeHasItsBoardTypeName) {
     };
     ExpectSevenBitNames(rows, [](std::uint8_t code) {
         const auto elements = ElementsOf(ChassisWithElements(24, 1, 3).Byte(0x15, code));
-        EXPECT_EQ(elements->at(0).typeValue, code & 0x7F);
-        EXPECT_EQ(elements->at(0).typeSelect, code >= 0x80 ? "Structure" : "Baseboard");
-        return elements->at(0).typeName;
+        EXPECT_EQ(elements->At(0).typeValue, code & 0x7F);
+        EXPECT_EQ(elements->At(0).typeSelect, code >= 0x80 ? "Structure" : "Baseboard");
+        return elements->At(0).typeName;
     });
 }
 

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -34,12 +35,22 @@ std::string Block(const std::vector<FieldText>& fields, const OutputStyle& style
 }
 
 template <class Type>
-std::string TextOf(const StructureBuilder& structure, Manager::SmbiosVersionIndex version = v3_8_0) {
+Inspect::FiledStructure Filed(const StructureBuilder& structure, Manager::SmbiosVersionIndex version) {
     const auto decoder = std::make_shared<Type>(version);
     decoder->Process(structure.FormattedBytes(), structure.Strings());
+    return {Type::kKey, decoder};
+}
+
+template <class Type>
+std::string TextOf(const StructureBuilder& structure, Manager::SmbiosVersionIndex version = v3_8_0) {
     std::ostringstream output;
-    Inspect::PrintStructure({Type::kKey, decoder}, {}, output);
+    Inspect::PrintStructure(Filed<Type>(structure, version), {}, output);
     return output.str();
+}
+
+template <class Type>
+Inspect::Json JsonOf(const StructureBuilder& structure) {
+    return Inspect::StructureToJson(Filed<Type>(structure, v3_8_0)).at("record");
 }
 
 /// What stands behind `label` in its line; "(none)" without such a line.
@@ -206,6 +217,26 @@ TEST(FiledStructure, AContainedElementReadsInOneLine) {
     const std::string text = TextOf<Structures::Type_3>(
         StructureBuilder(3, 0x18).Byte(0x13, 1).Byte(0x14, 3).Bytes(0x15, {0x80 | 10, 1, 2}));
     EXPECT_EQ(Shown(text, "Contained elements"), "Motherboard (10), Structure, minimum 1, maximum 2");
+}
+
+TEST(FiledStructure, ElementsPastAStructuresEndAreOnlyCounted) {
+    const StructureBuilder chassis =
+        StructureBuilder(3, 0x18).Byte(0x13, 255).Byte(0x14, 255).Bytes(0x15, {10, 1, 2});
+    EXPECT_THAT(
+        TextOf<Structures::Type_3>(chassis),
+        testing::HasSubstr("Contained elements  Motherboard (10), Baseboard, minimum 1, maximum 2\n"));
+    EXPECT_THAT(TextOf<Structures::Type_3>(chassis),
+                testing::HasSubstr(" and 21674 past the end of the structure\n"));
+    const Inspect::Json record = JsonOf<Structures::Type_3>(chassis);
+    EXPECT_EQ(record.at("containedElements").size(), 1U);
+    EXPECT_EQ(record.at("containedElementsCount"), 21675);
+}
+
+TEST(FiledStructure, ElementsWithinAStructureAreNotCounted) {
+    const Inspect::Json record =
+        JsonOf<Structures::Type_3>(StructureBuilder(3, 0x18).Byte(0x13, 1).Byte(0x14, 3));
+    EXPECT_EQ(record.at("containedElements").size(), 1U);
+    EXPECT_FALSE(record.contains("containedElementsCount"));
 }
 
 TEST(FiledStructure, APeerGroupReadsInOneLine) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "smbios-inspect/output/json.h"
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/records/record_fields.h"
+#include "structures/type_3.h"
 
 namespace SMBIOS::Inspect {
 
@@ -21,7 +23,7 @@ public:
     [[nodiscard]] static Json Of(const Record& record) {
         Json json = Json::object();
         ForEachField(AllFieldsOf<Record>(),
-                     [&](const auto& field) { json[field.name] = Of(record.*field.value); });
+                     [&](const auto& field) { Put(json, field.name, record.*field.value); });
         return json;
     }
 
@@ -30,7 +32,7 @@ public:
 
     [[nodiscard]] static Json Of(float number) { return static_cast<double>(number); }
 
-    [[nodiscard]] static Json Of(const std::string& text) { return text; }
+    [[nodiscard]] static Json Of(std::string_view text) { return text; }
 
     [[nodiscard]] static Json Of(const std::vector<std::uint8_t>& bytes) { return HexadecimalText(bytes); }
 
@@ -49,6 +51,18 @@ public:
     [[nodiscard]] static Json Of(const std::optional<Value>& value) {
         return value ? Of(*value) : Json();
     }
+
+private:
+    template <class Value>
+    static void Put(Json& json, const char* name, const Value& value) {
+        json[name] = Of(value);
+    }
+
+    /// The elements within the structure; where there are more of them, the number of all under a name of its
+    /// own.
+    static void Put(Json& json,
+                    const char* name,
+                    const std::optional<Structures::Type3::Types::ContainedElements>& elements);
 };
 
 }  // namespace SMBIOS::Inspect

@@ -1,6 +1,7 @@
 #include "smbios-inspect/records/record_text.h"
 
 #include "common/format.h"
+#include "smbios-inspect/records/record_fields_system.h"
 
 namespace SMBIOS::Inspect {
 
@@ -31,6 +32,17 @@ Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits)
         }
     }
     return {names.empty() ? "none" : Joined(names, ", ")};
+}
+
+Lines RecordText::LinesOf(const Structures::Type3::Types::ContainedElements& elements) {
+    Lines lines;
+    for (std::size_t i = 0; i < elements.CountWithinStructure(); ++i) {
+        lines.push_back(Joined(LinesOf(elements.At(i)), ", "));
+    }
+    if (const std::size_t more = elements.Count() - lines.size(); more != 0) {
+        lines.push_back("and " + std::to_string(more) + " past the end of the structure");
+    }
+    return lines;
 }
 
 Lines RecordText::WordFor(int number, int other, int unknown) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/records/field.h"
 #include "structures/hex_text.h"
+#include "structures/type_3.h"
 
 namespace SMBIOS::Inspect {
 
@@ -45,14 +47,17 @@ public:
     /// Six digits are all that the firmware gives; more would show how the fraction was rounded.
     [[nodiscard]] static Lines LinesOf(float number);
 
-    [[nodiscard]] static Lines LinesOf(const std::string& text) {
-        return text.empty() ? Lines() : Lines{text};
+    [[nodiscard]] static Lines LinesOf(std::string_view text) {
+        return text.empty() ? Lines() : Lines{std::string(text)};
     }
 
     [[nodiscard]] static Lines LinesOf(const std::vector<std::uint8_t>& bytes);
 
     /// The names of the flags that are set.
     [[nodiscard]] static Lines LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits = {});
+
+    /// A line an element within the structure, and one that counts the others.
+    [[nodiscard]] static Lines LinesOf(const Structures::Type3::Types::ContainedElements& elements);
 
     /// The fields of a part of a record, in one line.
     template <Described Part>
