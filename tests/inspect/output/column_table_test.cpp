@@ -41,6 +41,16 @@ TEST(Printable, ControlCharactersAreReplaced) {
     EXPECT_EQ(Printable("\xC2\xA0"), "\xC2\xA0");
 }
 
+TEST(Printable, CharactersThatMoveTextAboutAreReplaced) {
+    for (const char* const text :
+         {"\xE2\x80\xA8", "\xE2\x80\xA9", "\xE2\x80\xAA", "\xE2\x80\xAE", "\xE2\x81\xA6", "\xE2\x81\xA9"}) {
+        EXPECT_EQ(Printable(text), "\xEF\xBF\xBD") << text;
+    }
+    for (const char* const text : {"\xE2\x80\xA7", "\xE2\x80\xAF", "\xE2\x81\xA5", "\xE2\x81\xAA"}) {
+        EXPECT_EQ(Printable(text), text);
+    }
+}
+
 TEST(Printable, BytesThatAreNotUtf8AreReplacedOneByOne) {
     for (const char* const text : {"\xFF", "\x80", "\xC3", "\xC1", "\xF5"}) {
         EXPECT_EQ(Printable(text), "\xEF\xBF\xBD") << text;
@@ -87,6 +97,33 @@ TEST(WrapWords, GivesOneLineForNoText) {
 
 TEST(WrapWords, CountsCharacters) {
     EXPECT_EQ(WrapWords("\xC3\xA9\xC3\xA9 \xC3\xA9", 4), Lines{"\xC3\xA9\xC3\xA9 \xC3\xA9"});
+}
+
+TEST(WrapWords, KeepsBlanksBeforeTheFirstWord) {
+    EXPECT_EQ(WrapWords("  one two", 5), (Lines{"  one", "two"}));
+    EXPECT_EQ(WrapWords("      one two", 4), (Lines{"      one", "two"}));
+}
+
+TEST(WrapWords, LooksAtATextOnceWhateverItsLength) {
+    std::string text;
+    for (int word = 0; word < 1'000'000; ++word) {
+        text += "a ";
+    }
+    EXPECT_EQ(WrapWords(text, 3).size(), 500'000U);
+    EXPECT_EQ(WrapWords(text, 1'000'000).size(), 2U);
+}
+
+TEST(CutTo, LeavesATextThatFits) {
+    EXPECT_EQ(CutTo(5, "12345"), "12345");
+    EXPECT_EQ(CutTo(5, "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9"),
+              "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9");
+    EXPECT_EQ(CutTo(5, ""), "");
+}
+
+TEST(CutTo, EndsAWiderTextWithAnEllipsis) {
+    EXPECT_EQ(CutTo(5, "123456"), "1234\xE2\x80\xA6");
+    EXPECT_EQ(CutTo(2, "\xC3\xA9\xC3\xA9\xC3\xA9"), "\xC3\xA9\xE2\x80\xA6");
+    EXPECT_EQ(CutTo(1, "12"), "\xE2\x80\xA6");
 }
 
 TEST(BesideLabel, TextStandsBesideItsLabel) {
@@ -160,6 +197,22 @@ TEST(ColumnTable, CountsCharactersForItsColumns) {
     ColumnTable table({"A", "B"});
     table.Add({"\xC3\xA9\xC3\xA9", "x"});
     EXPECT_EQ(Printed(table), "A   B\n\xC3\xA9\xC3\xA9  x\n");
+}
+
+TEST(ColumnTable, CutsACellOfMoreThan60ColumnsWhereThereIsNoTerminal) {
+    ColumnTable table({"A", "B"});
+    table.Add({std::string(60, 'x'), "1"});
+    table.Add({std::string(61, 'y'), "2"});
+    EXPECT_EQ(Printed(table),
+              "A" + std::string(61, ' ') + "B\n" + std::string(60, 'x') + "  1\n" + std::string(59, 'y') +
+                  "\xE2\x80\xA6  2\n");
+}
+
+TEST(ColumnTable, ShowsALongCellWholeOnATerminal) {
+    ColumnTable table({"A"});
+    table.Add({std::string(61, 'y')});
+    EXPECT_EQ(Printed(table, {.width = 20}), "A\n    " + std::string(61, 'y') + "\n");
+    EXPECT_EQ(Printed(table, {.width = 61}), "A\n" + std::string(61, 'y') + "\n");
 }
 
 TEST(ColumnTable, IsSafeForATerminal) {

@@ -12,6 +12,13 @@ namespace {
 
 constexpr std::string_view kColumnGap = "  ";
 
+/// Columns of a cell where there is no terminal: one long text would widen every row.
+constexpr std::size_t kWidestCell = 60;
+
+std::string CellText(const std::string& cell, const OutputStyle& style) {
+    return style.width == 0 ? CutTo(kWidestCell, cell) : cell;
+}
+
 std::string Blanks(std::size_t count) {
     return std::string(count, ' ');
 }
@@ -39,7 +46,7 @@ void ColumnTable::Print(const OutputStyle& style, std::ostream& output) const {
         PrintSentence(textWhenEmpty_, style, output);
         return;
     }
-    const std::vector<std::size_t> widths = ColumnWidths();
+    const std::vector<std::size_t> widths = ColumnWidths(style);
     const std::size_t gaps = kColumnGap.size() * (widths.size() - 1);
     const std::size_t lineWidth = std::accumulate(widths.begin(), widths.end(), gaps);
     if (style.width == 0 || lineWidth <= style.width) {
@@ -55,12 +62,12 @@ void ColumnTable::Print(const OutputStyle& style, std::ostream& output) const {
     }
 }
 
-std::vector<std::size_t> ColumnTable::ColumnWidths() const {
+std::vector<std::size_t> ColumnTable::ColumnWidths(const OutputStyle& style) const {
     std::vector<std::size_t> widths;
     for (std::size_t column = 0; column < headings_.size(); ++column) {
         std::size_t width = DisplayWidth(headings_[column]);
         for (const Row& row : rows_) {
-            width = std::max(width, DisplayWidth(row[column]));
+            width = std::max(width, DisplayWidth(CellText(row[column], style)));
         }
         widths.push_back(width);
     }
@@ -73,7 +80,7 @@ void ColumnTable::PrintLine(const Row& row,
                             std::ostream& output) const {
     std::string line;
     for (std::size_t column = 0; column < row.size(); ++column) {
-        line += Padded(row[column], widths[column], style, &row == &headings_);
+        line += Padded(CellText(row[column], style), widths[column], style, &row == &headings_);
         line += kColumnGap;
     }
     output << WithoutTrailingBlanks(line) << '\n';

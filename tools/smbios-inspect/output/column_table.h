@@ -19,13 +19,14 @@ public:
     /// Adds a row; an empty cell is shown as "-". There are as many cells as headings.
     void Add(std::vector<std::string> cells);
 
-    /// One line a row; where the terminal is too narrow for that, one block of lines a row.
+    /// One line a row; where the terminal is too narrow for that, one block of lines a row. Without a
+    /// terminal a cell of more than 60 columns is cut there.
     void Print(const OutputStyle& style, std::ostream& output) const;
 
 private:
     using Row = std::vector<std::string>;
 
-    [[nodiscard]] std::vector<std::size_t> ColumnWidths() const;
+    [[nodiscard]] std::vector<std::size_t> ColumnWidths(const OutputStyle& style) const;
     void PrintLine(const Row& row,
                    const std::vector<std::size_t>& widths,
                    const OutputStyle& style,

@@ -73,23 +73,50 @@ std::size_t CharacterLength(std::string_view text) noexcept {
     return length;
 }
 
-/// C0 and C1 control characters, and delete: a terminal might obey them.
+/// U+2028 and U+2029 end a line, U+202A to U+202E and U+2066 to U+2069 turn the direction of the text.
+bool IsLayoutControl(std::string_view character) noexcept {
+    if (!character.starts_with('\xE2') || character.size() != 3) {
+        return false;
+    }
+    const std::uint8_t second = ByteOf(character[1]);
+    const std::uint8_t third = ByteOf(character[2]);
+    return (second == 0x80 && 0xA8 <= third && third <= 0xAE) ||
+           (second == 0x81 && 0xA6 <= third && third <= 0xA9);
+}
+
+/// C0 and C1 control characters, delete, and what moves text about: a terminal might obey them.
 bool IsControl(std::string_view character) noexcept {
     const std::uint8_t first = ByteOf(character.front());
-    return first < 0x20 || first == 0x7F || (first == 0xC2 && ByteOf(character[1]) < 0xA0);
+    return first < 0x20 || first == 0x7F || (first == 0xC2 && ByteOf(character[1]) < 0xA0) ||
+           IsLayoutControl(character);
+}
+
+/// Where the character behind the first `count` ones begins; the end of `text` when there is none.
+std::size_t EndOfCharacters(std::string_view text, std::size_t count) noexcept {
+    std::size_t end = 0;
+    for (; end < text.size(); ++end) {
+        if (!IsContinuation(text[end]) && count-- == 0) {
+            break;
+        }
+    }
+    return end;
+}
+
+/// Whether `text` takes more than `width` columns; looks no further than that.
+bool IsWiderThan(std::string_view text, std::size_t width) noexcept {
+    return EndOfCharacters(text, width) < text.size();
 }
 
 /// Where the first line of `text` ends: at its last blank within `width` columns, else at its first blank.
+/// Looks no further than it must.
 std::size_t LineEnd(std::string_view text, std::size_t width) noexcept {
-    std::size_t end = std::string_view::npos;
-    for (std::size_t blank = text.find(' ', text.find_first_not_of(' ')); blank != std::string_view::npos;
-         blank = text.find(' ', blank + 1)) {
-        if (end != std::string_view::npos && DisplayWidth(text.substr(0, blank)) > width) {
-            break;
-        }
-        end = blank;
+    const std::size_t firstWord = std::min(text.find_first_not_of(' '), text.size());
+    const std::size_t firstBlank = text.find(' ', firstWord);
+    const std::size_t limit = EndOfCharacters(text, width);
+    if (firstBlank == std::string_view::npos || firstBlank >= limit) {
+        return firstBlank;
     }
-    return end;
+    return text.rfind(' ', limit);
 }
 
 std::size_t LongestWord(std::string_view text) noexcept {
@@ -140,6 +167,16 @@ std::size_t DisplayWidth(std::string_view text) noexcept {
     return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, IsContinuation));
 }
 
+std::string CutTo(std::size_t columns, std::string_view text) {
+    constexpr std::string_view kEllipsis = "\xE2\x80\xA6";  // U+2026
+    if (!IsWiderThan(text, columns)) {
+        return std::string(text);
+    }
+    std::string cut(text.substr(0, EndOfCharacters(text, columns - 1)));
+    cut += kEllipsis;
+    return cut;
+}
+
 std::string_view WithoutTrailingBlanks(std::string_view text) noexcept {
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
@@ -147,7 +184,7 @@ std::string_view WithoutTrailingBlanks(std::string_view text) noexcept {
 std::vector<std::string> WrapWords(std::string_view text, std::size_t width) {
     std::vector<std::string> lines;
     text = WithoutTrailingBlanks(text);
-    while (width != 0 && DisplayWidth(text) > width) {
+    while (width != 0 && IsWiderThan(text, width)) {
         const std::size_t end = LineEnd(text, width);
         if (end == std::string_view::npos) {
             break;

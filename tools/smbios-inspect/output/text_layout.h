@@ -12,11 +12,15 @@
 // How any text is laid out for a terminal.
 namespace SMBIOS::Inspect {
 
-/// `text` made safe for a terminal: control bytes and bytes that are not UTF-8 become U+FFFD.
+/// `text` made safe for a terminal: control characters, those that end a line or turn the direction of the
+/// text, and bytes that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::string Printable(std::string_view text);
 
 /// Number of terminal columns that printable UTF-8 takes, one for each character.
 [[nodiscard]] std::size_t DisplayWidth(std::string_view text) noexcept;
+
+/// Printable text of at most `columns` columns, 1 or more: a wider one ends with an ellipsis there.
+[[nodiscard]] std::string CutTo(std::size_t columns, std::string_view text);
 
 /// `text` up to its last character that is no blank.
 [[nodiscard]] std::string_view WithoutTrailingBlanks(std::string_view text) noexcept;
