@@ -233,6 +233,22 @@ TEST_F(SummaryTest, BreaksPartsThatAreTooLongBetweenWords) {
     EXPECT_EQ(ValuesOf("System", {.width = 30}), (Values{"A maker of long", "  names Product"}));
 }
 
+TEST_F(SummaryTest, BreaksNoWordThatFitsTheTerminal) {
+    const std::string word(37, 'x');
+    Load({StructureBuilder(1, 0x08).String(0x04, "Maker").String(0x05, word)});
+    const std::vector<std::string> lines = LinesOf(Text({.width = 40}));
+    EXPECT_EQ(lines.at(1), "System      Maker");
+    EXPECT_EQ(lines.at(2), "   " + word);
+}
+
+TEST_F(SummaryTest, GivesAWordThatFitsALineOnlyTheLineBelowItsLabel) {
+    const std::string word(40, 'x');
+    Load({StructureBuilder(1, 0x08).String(0x05, word)});
+    const std::vector<std::string> lines = LinesOf(Text({.width = 40}));
+    EXPECT_EQ(lines.at(1), "System");
+    EXPECT_EQ(lines.at(2), word);
+}
+
 TEST_F(SummaryTest, BreaksTheLineOfErrors) {
     Load({StructureBuilder(17, 0x10)});
     EXPECT_EQ(ValuesOf("Table", {.width = 36}),

@@ -128,9 +128,28 @@ private:
         }
         std::string_view indent = "";
         for (const std::string& line : Lines(item)) {
-            PrintLine(std::string(indent) + line);
+            if (HasRoomFurtherLeftOnly(line)) {
+                PrintBelowLabel(line);
+            } else {
+                PrintLine(std::string(indent) + line);
+            }
             indent = kContinuation;
         }
+    }
+
+    /// A word that fits the terminal is not broken for want of room beside the labels.
+    [[nodiscard]] bool HasRoomFurtherLeftOnly(const std::string& line) const {
+        const std::size_t width = DisplayWidth(line);
+        return style_.width != 0 && width > ValueWidth() && width <= style_.width;
+    }
+
+    void PrintBelowLabel(const std::string& line) {
+        if (!label_.empty()) {
+            output_ << Emphasised(label_, Emphasis::heading, style_) << '\n';
+            label_ = {};
+        }
+        const std::size_t room = style_.width - DisplayWidth(line);
+        output_ << std::string(std::min(room, kLabelWidth), ' ') << line << '\n';
     }
 
     /// Breaks between parts where that does, else between words.
