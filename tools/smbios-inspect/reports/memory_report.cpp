@@ -7,11 +7,10 @@
 
 #include "manager/smbios_manager.h"
 #include "smbios-inspect/output/column_table.h"
-#include "smbios-inspect/output/json.h"
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/records/memory_size.h"
 #include "smbios-inspect/reports/getter_values.h"
-#include "smbios-inspect/reports/unlisted_note.h"
+#include "smbios-inspect/reports/rows_report.h"
 #include "smbios/memory_info.h"
 
 namespace SMBIOS::Inspect {
@@ -118,42 +117,23 @@ void PrintTable(const MemoryInfo& info, const OutputStyle& style, std::ostream& 
     table.Print(style, output);
 }
 
-UnlistedStructures UnlistedOf(const MemoryInfo& info) {
-    const SmbiosManager& manager = *SmbiosManager::GetInstance();
-    return {.listed = info.GetMemoryDeviceCount(),
-            .total = manager.GetStructuresByType(StructureTypes::MemoryDevice).size(),
-            .noun = "memory device",
-            .identifier = "a serial number",
-            .type = 17};
-}
-
-void PrintAsJson(const MemoryInfo& info, std::ostream& output) {
-    Json report = RowsToJson("devices", info, info.GetMemoryDeviceCount(), kValues);
-    report["unlisted"] = UnlistedOf(info).Count();
-    PrintJson(report, output);
-}
-
-void PrintAsText(const MemoryInfo& info,
-                 const Request& request,
-                 const OutputStyle& style,
-                 std::ostream& output) {
-    const UnlistedStructures unlisted = UnlistedOf(info);
-    if (unlisted.listed != 0 || unlisted.total == 0) {
-        PrintTable(info, style, output);
-    }
-    PrintUnlistedNote(unlisted, request, style, output);
-}
-
 }  // namespace
 
 void ReportMemory(const Request& request, const OutputStyle& style, std::ostream& output) {
     MemoryInfo info;
     info.RetrieveInfo();
-    if (request.json) {
-        PrintAsJson(info, output);
-    } else {
-        PrintAsText(info, request, style, output);
-    }
+    const SmbiosManager& manager = *SmbiosManager::GetInstance();
+    const RowsReport report{
+        "devices",
+        kValues,
+        PrintTable,
+        UnlistedStructures{.listed = info.GetMemoryDeviceCount(),
+                           .total = manager.GetStructuresByType(StructureTypes::MemoryDevice).size(),
+                           .noun = "memory device",
+                           .identifier = "a serial number",
+                           .type = 17},
+    };
+    report.Print(info, request, style, output);
 }
 
 }  // namespace SMBIOS::Inspect

@@ -8,10 +8,9 @@
 #include "common/format.h"
 #include "manager/smbios_manager.h"
 #include "smbios-inspect/output/column_table.h"
-#include "smbios-inspect/output/json.h"
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/reports/getter_values.h"
-#include "smbios-inspect/reports/unlisted_note.h"
+#include "smbios-inspect/reports/rows_report.h"
 #include "smbios/processor_info.h"
 
 namespace SMBIOS::Inspect {
@@ -132,42 +131,23 @@ void PrintTable(const ProcessorInfo& info, const OutputStyle& style, std::ostrea
     table.Print(style, output);
 }
 
-UnlistedStructures UnlistedOf(const ProcessorInfo& info) {
-    const SmbiosManager& manager = *SmbiosManager::GetInstance();
-    return {.listed = info.GetCPUCount(),
-            .total = manager.GetStructuresByType(StructureTypes::ProcessorInformation).size(),
-            .noun = "processor",
-            .identifier = "a processor id",
-            .type = 4};
-}
-
-void PrintAsJson(const ProcessorInfo& info, std::ostream& output) {
-    Json report = RowsToJson("processors", info, info.GetCPUCount(), kValues);
-    report["unlisted"] = UnlistedOf(info).Count();
-    PrintJson(report, output);
-}
-
-void PrintAsText(const ProcessorInfo& info,
-                 const Request& request,
-                 const OutputStyle& style,
-                 std::ostream& output) {
-    const UnlistedStructures unlisted = UnlistedOf(info);
-    if (unlisted.listed != 0 || unlisted.total == 0) {
-        PrintTable(info, style, output);
-    }
-    PrintUnlistedNote(unlisted, request, style, output);
-}
-
 }  // namespace
 
 void ReportProcessors(const Request& request, const OutputStyle& style, std::ostream& output) {
     ProcessorInfo info;
     info.RetrieveInfo();
-    if (request.json) {
-        PrintAsJson(info, output);
-    } else {
-        PrintAsText(info, request, style, output);
-    }
+    const SmbiosManager& manager = *SmbiosManager::GetInstance();
+    const RowsReport report{
+        "processors",
+        kValues,
+        PrintTable,
+        UnlistedStructures{.listed = info.GetCPUCount(),
+                           .total = manager.GetStructuresByType(StructureTypes::ProcessorInformation).size(),
+                           .noun = "processor",
+                           .identifier = "a processor id",
+                           .type = 4},
+    };
+    report.Print(info, request, style, output);
 }
 
 }  // namespace SMBIOS::Inspect
