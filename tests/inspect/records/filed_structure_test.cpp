@@ -20,6 +20,7 @@
 #include "structures/type_9.h"
 #include "structures/unknown_type.h"
 #include "tests/support/decode.h"
+#include "tests/support/json.h"
 
 // How one structure reads on a terminal.
 namespace SMBIOS::Tests {
@@ -49,8 +50,11 @@ std::string TextOf(const StructureBuilder& structure, Manager::SmbiosVersionInde
 }
 
 template <class Type>
-Inspect::Json JsonOf(const StructureBuilder& structure) {
-    return Inspect::StructureToJson(Filed<Type>(structure, v3_8_0)).at("record");
+Json JsonOf(const StructureBuilder& structure) {
+    const auto write = [&](Inspect::JsonWriter& json) {
+        Inspect::WriteStructure(Filed<Type>(structure, v3_8_0), json);
+    };
+    return Json::parse(JsonText(write)).at("record");
 }
 
 /// What stands behind `label` in its line; "(none)" without such a line.
@@ -227,14 +231,13 @@ TEST(FiledStructure, ElementsPastAStructuresEndAreOnlyCounted) {
         testing::HasSubstr("Contained elements  Motherboard (10), Baseboard, minimum 1, maximum 2\n"));
     EXPECT_THAT(TextOf<Structures::Type_3>(chassis),
                 testing::HasSubstr(" and 21674 past the end of the structure\n"));
-    const Inspect::Json record = JsonOf<Structures::Type_3>(chassis);
+    const Json record = JsonOf<Structures::Type_3>(chassis);
     EXPECT_EQ(record.at("containedElements").size(), 1U);
     EXPECT_EQ(record.at("containedElementsCount"), 21675);
 }
 
 TEST(FiledStructure, ElementsWithinAStructureAreNotCounted) {
-    const Inspect::Json record =
-        JsonOf<Structures::Type_3>(StructureBuilder(3, 0x18).Byte(0x13, 1).Byte(0x14, 3));
+    const Json record = JsonOf<Structures::Type_3>(StructureBuilder(3, 0x18).Byte(0x13, 1).Byte(0x14, 3));
     EXPECT_EQ(record.at("containedElements").size(), 1U);
     EXPECT_FALSE(record.contains("containedElementsCount"));
 }

@@ -15,9 +15,9 @@
 #include "manager/smbios_version.h"
 #include "manager/structure_factory.h"
 #include "manager/structure_walk.h"
-#include "smbios-inspect/output/json.h"
 #include "smbios-inspect/records/filed_structure.h"
 #include "structures/decoded_types.h"
+#include "tests/support/json.h"
 
 // Whatever the firmware writes, the output stays valid and harmless. Below the manager, which loads only
 // once.
@@ -25,7 +25,6 @@ namespace SMBIOS::Tests {
 namespace {
 
 using Inspect::FiledStructure;
-using Inspect::Json;
 using Inspect::OutputStyle;
 using Manager::SmbiosVersionIndex;
 using Manager::Types::StructureTypes;
@@ -155,14 +154,15 @@ FiledStructure Decoded(const Manager::RawStructure& structure, SmbiosVersionInde
 }
 
 void ExpectValidJson(const std::vector<FiledStructure>& structures) {
-    Json list = Json::array();
-    for (const FiledStructure& structure : structures) {
-        list.push_back(Inspect::StructureToJson(structure));
-    }
-    std::ostringstream output;
-    Inspect::PrintJson(list, output);
-    ASSERT_TRUE(Json::accept(output.str())) << output.str();
-    ASSERT_TRUE(IsUtf8(output.str())) << output.str();
+    const std::string text = JsonText([&](Inspect::JsonWriter& json) {
+        json.BeginArray();
+        for (const FiledStructure& structure : structures) {
+            Inspect::WriteStructure(structure, json);
+        }
+        json.EndArray();
+    });
+    ASSERT_TRUE(Json::accept(text)) << text;
+    ASSERT_TRUE(IsUtf8(text)) << text;
 }
 
 void ExpectHarmlessText(const std::vector<FiledStructure>& structures, const OutputStyle& style) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <set>
 #include <span>
 #include <sstream>
@@ -15,12 +14,11 @@
 #include "tests/inspect/run_tool.h"
 #include "tests/support/decode.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/json.h"
 
 // The manager is once per process: every test here needs a process of its own.
 namespace SMBIOS::Tests {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 std::vector<std::string> KeysOf(const Json& object) {
     std::vector<std::string> keys;

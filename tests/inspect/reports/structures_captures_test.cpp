@@ -8,14 +8,11 @@
 #include <vector>
 
 #include "platform/saved_table.h"
-#include "smbios-inspect/reports/getter_values.h"
 #include "tests/inspect/reports/structures_support.h"
 
 // Tables of real machines. The manager is once per process: every test here needs a process of its own.
 namespace SMBIOS::Tests {
 namespace {
-
-using Inspect::Json;
 
 constexpr std::size_t kRawHeaderSize = 8;
 

@@ -8,15 +8,12 @@
 #include <vector>
 
 #include "platform/file_bytes.h"
-#include "smbios-inspect/reports/getter_values.h"
 #include "tests/inspect/reports/structures_support.h"
 #include "tests/support/decode.h"
 
 // The manager is once per process: every test here needs a process of its own.
 namespace SMBIOS::Tests {
 namespace {
-
-using Inspect::Json;
 
 std::vector<std::uint8_t> SampleTable() {
     return Platform::ReadFileBytes(SMBIOS_SAMPLE_TABLE).bytes;

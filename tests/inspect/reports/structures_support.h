@@ -8,6 +8,7 @@
 
 #include "smbios-inspect/reports/structures_report.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/json.h"
 
 namespace SMBIOS::Tests {
 

@@ -5,8 +5,6 @@
 namespace SMBIOS::Tests {
 namespace {
 
-using Inspect::Json;
-
 TEST_P(StandardField, HasItsValueInJson) {
     const Json structure = FirmwareJson(TableOf(StructureOf(GetParam()))).at(0);
     const Json::json_pointer pointer(GetParam().pointer);

@@ -9,6 +9,7 @@
 #include "smbios-inspect/standard/firmware_json.h"
 #include "smbios-inspect/standard/firmware_text.h"
 #include "smbios-inspect/standard/structure.h"
+#include "tests/support/json.h"
 
 namespace SMBIOS::Tests {
 
@@ -26,13 +27,20 @@ inline std::string FirmwareText(const std::vector<std::uint8_t>& rawTable, bool 
 }
 
 /// The JSON of every structure of a raw table.
-inline Inspect::Json FirmwareJson(const std::vector<std::uint8_t>& rawTable, bool isQuiet = false) {
-    Inspect::Json list = Inspect::Json::array();
-    Inspect::Standard::TableWalk walk(rawTable);
-    while (const auto structure = walk.Next()) {
-        list.push_back(Inspect::Standard::StructureToJson(*structure, isQuiet));
-    }
-    return list;
+inline std::string FirmwareJsonText(const std::vector<std::uint8_t>& rawTable, bool isQuiet = false) {
+    return JsonText([&](Inspect::JsonWriter& json) {
+        json.BeginArray();
+        Inspect::Standard::TableWalk walk(rawTable);
+        while (const auto structure = walk.Next()) {
+            Inspect::Standard::WriteStructure(*structure, isQuiet, json);
+        }
+        json.EndArray();
+    });
+}
+
+/// Likewise, read back.
+inline Json FirmwareJson(const std::vector<std::uint8_t>& rawTable, bool isQuiet = false) {
+    return Json::parse(FirmwareJsonText(rawTable, isQuiet));
 }
 
 /// A table of version 3.8 with this structure alone.

@@ -11,7 +11,6 @@
 namespace SMBIOS::Tests {
 namespace {
 
-using Inspect::Json;
 using Inspect::Standard::Structure;
 using Inspect::Standard::TableWalk;
 

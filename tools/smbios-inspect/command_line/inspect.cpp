@@ -70,6 +70,7 @@ int Run(std::span<const std::string_view> arguments,
         const Options options = ParseOptions(arguments);
         const TableInput table = NeedsTable(options.command) ? TableInput(options.report.from) : TableInput();
         Report(options, style, output);
+        output.flush();  // whoever joins the two streams reads the report first
         WarnOfLostEnd(options.command, errors);
         return kSuccess;
     } catch (const UsageError& error) {

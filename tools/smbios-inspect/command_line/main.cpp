@@ -1,12 +1,13 @@
 #include <cstdlib>
 #include <iostream>
-#include <sstream>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
 #include "platform/console.h"
+#include "smbios-inspect/command_line/console_buffer.h"
 #include "smbios-inspect/command_line/inspect.h"
 #include "smbios-inspect/command_line/terminal.h"
 
@@ -14,9 +15,8 @@ namespace {
 
 using namespace SMBIOS;
 
-/// Prints what the tool has to say; a reader that goes away has seen all it wanted.
-int Print(const Platform::Console& console, const std::string& text, int status) {
-    const std::error_code failure = console.Write(text);
+/// The status of a process that ran with `status`; a reader that goes away has seen all it wanted.
+int StatusAfter(std::error_code failure, int status) {
     if (!failure || failure == std::errc::broken_pipe) {
         return status;
     }
@@ -34,8 +34,9 @@ int main(int argumentCount, char** arguments) {
                            .takesEscapeSequences = console.TakesEscapeSequences(),
                            .noColour = std::getenv("NO_COLOR"),
                            .kind = std::getenv("TERM")});
-    std::ostringstream output;
+    Inspect::ConsoleBuffer buffer(console);
+    std::ostream output(&buffer);
     const std::vector<std::string_view> views(words.begin(), words.end());
     const int status = Inspect::Run(views, style, output, std::cerr);
-    return Print(console, output.str(), status);
+    return StatusAfter(buffer.Finish(), status);
 }

@@ -52,10 +52,13 @@ bool IsDamaged(const FiledStructure& structure) {
     return size < kHeaderSize || size < writer.leastLength;
 }
 
-Json StructureToJson(const FiledStructure& structure) {
-    return {{"key", static_cast<int>(structure.first)},
-            {"type", TypeOf(structure)},
-            {"record", WriterFor(structure).json(*structure.second)}};
+void WriteStructure(const FiledStructure& structure, JsonWriter& json) {
+    json.BeginObject();
+    json.Member("key", static_cast<int>(structure.first));
+    json.Member("type", TypeOf(structure));
+    json.Name("record");
+    WriterFor(structure).json(*structure.second, json);
+    json.EndObject();
 }
 
 void PrintStructure(const FiledStructure& structure, const OutputStyle& style, std::ostream& output) {

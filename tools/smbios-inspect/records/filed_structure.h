@@ -5,7 +5,7 @@
 #include <string>
 
 #include "manager/decoded_table.h"
-#include "smbios-inspect/output/json.h"
+#include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/output/output_style.h"
 
 namespace SMBIOS::Inspect {
@@ -23,8 +23,8 @@ using FiledStructure = Manager::FiledStructures::value_type;
 /// that failed may be sound, of a length or a version that the library does not decode.
 [[nodiscard]] bool IsDamaged(const FiledStructure& structure);
 
-/// Key, type and record.
-[[nodiscard]] Json StructureToJson(const FiledStructure& structure);
+/// Key, type and record as an object.
+void WriteStructure(const FiledStructure& structure, JsonWriter& json);
 
 /// A heading and the fields of the record that have a value, one below the other.
 void PrintStructure(const FiledStructure& structure, const OutputStyle& style, std::ostream& output);

@@ -1,36 +1,51 @@
 #include "smbios-inspect/records/record_json.h"
 
+#include <string>
+
 #include "smbios-inspect/records/record_fields_system.h"
 
 namespace SMBIOS::Inspect {
 
 using Structures::Type3::Types::ContainedElements;
 
-Json RecordJson::Of(const Common::Dynamic_BitSet& flags) {
+void RecordJson::Write(JsonWriter& json, const Common::Dynamic_BitSet& flags) {
+    json.BeginObject();
+    json.Member("bitCount", flags.GetBitCount());
     std::uint64_t value = 0;
-    Json set = Json::array();
+    for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
+        value |= std::uint64_t{flags.Test(bit)} << bit;
+    }
+    json.Member("value", value);
+    json.Name("set");
+    json.BeginArray();
     for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
         if (flags.Test(bit)) {
-            const char* const name = flags.GetBitName(bit);
-            value |= std::uint64_t{1} << bit;
-            set.push_back({{"bit", bit}, {"name", name == nullptr ? Json() : Json(name)}});
+            json.BeginObject();
+            json.Member("bit", bit);
+            json.Name("name");
+            json.TextOrNull(flags.GetBitName(bit));
+            json.EndObject();
         }
     }
-    return {{"bitCount", flags.GetBitCount()}, {"value", value}, {"set", std::move(set)}};
+    json.EndArray();
+    json.EndObject();
 }
 
-void RecordJson::Put(Json& json, const char* name, const std::optional<ContainedElements>& elements) {
+void RecordJson::WriteMember(JsonWriter& json,
+                             const char* name,
+                             const std::optional<ContainedElements>& elements) {
+    json.Name(name);
     if (!elements) {
-        json[name] = nullptr;
+        json.Null();
         return;
     }
-    Json list = Json::array();
+    json.BeginArray();
     for (std::size_t i = 0; i < elements->CountWithinStructure(); ++i) {
-        list.push_back(Of(elements->At(i)));
+        Write(json, elements->At(i));
     }
-    json[name] = std::move(list);
+    json.EndArray();
     if (elements->Count() > elements->CountWithinStructure()) {
-        json[std::string(name) + "Count"] = elements->Count();
+        json.Member(std::string(name) + "Count", elements->Count());
     }
 }
 

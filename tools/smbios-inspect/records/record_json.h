@@ -3,14 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <type_traits>
 #include <vector>
 
 #include "common/dynamic_bitset.h"
-#include "smbios-inspect/output/json.h"
-#include "smbios-inspect/output/units.h"
+#include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/records/record_fields.h"
 #include "structures/type_3.h"
 
@@ -20,49 +18,50 @@ namespace SMBIOS::Inspect {
 class RecordJson {
 public:
     template <Described Record>
-    [[nodiscard]] static Json Of(const Record& record) {
-        Json json = Json::object();
+    static void Write(JsonWriter& json, const Record& record) {
+        json.BeginObject();
         ForEachField(AllFieldsOf<Record>(),
-                     [&](const auto& field) { Put(json, field.name, record.*field.value); });
-        return json;
+                     [&](const auto& field) { WriteMember(json, field.name, record.*field.value); });
+        json.EndObject();
     }
 
     template <class Number>
-    requires(std::is_arithmetic_v<Number>) [[nodiscard]] static Json Of(Number number) { return number; }
+    requires(std::is_arithmetic_v<Number>) static void Write(JsonWriter& json, Number number) {
+        json.Value(number);
+    }
 
-    [[nodiscard]] static Json Of(float number) { return static_cast<double>(number); }
+    static void Write(JsonWriter& json, std::string_view text) { json.Value(text); }
 
-    [[nodiscard]] static Json Of(std::string_view text) { return text; }
+    static void Write(JsonWriter& json, const std::vector<std::uint8_t>& bytes) { json.Hexadecimal(bytes); }
 
-    [[nodiscard]] static Json Of(const std::vector<std::uint8_t>& bytes) { return HexadecimalText(bytes); }
-
-    [[nodiscard]] static Json Of(const Common::Dynamic_BitSet& flags);
+    static void Write(JsonWriter& json, const Common::Dynamic_BitSet& flags);
 
     template <class Element>
-    [[nodiscard]] static Json Of(const std::vector<Element>& elements) {
-        Json json = Json::array();
+    static void Write(JsonWriter& json, const std::vector<Element>& elements) {
+        json.BeginArray();
         for (const Element& element : elements) {
-            json.push_back(Of(element));
+            Write(json, element);
         }
-        return json;
+        json.EndArray();
     }
 
     template <class Value>
-    [[nodiscard]] static Json Of(const std::optional<Value>& value) {
-        return value ? Of(*value) : Json();
+    static void Write(JsonWriter& json, const std::optional<Value>& value) {
+        value ? Write(json, *value) : json.Null();
     }
 
 private:
     template <class Value>
-    static void Put(Json& json, const char* name, const Value& value) {
-        json[name] = Of(value);
+    static void WriteMember(JsonWriter& json, const char* name, const Value& value) {
+        json.Name(name);
+        Write(json, value);
     }
 
     /// The elements within the structure; where there are more of them, the number of all under a name of its
     /// own.
-    static void Put(Json& json,
-                    const char* name,
-                    const std::optional<Structures::Type3::Types::ContainedElements>& elements);
+    static void WriteMember(JsonWriter& json,
+                            const char* name,
+                            const std::optional<Structures::Type3::Types::ContainedElements>& elements);
 };
 
 }  // namespace SMBIOS::Inspect

@@ -5,14 +5,14 @@
 #include <vector>
 
 #include "smbios-inspect/output/field_block.h"
-#include "smbios-inspect/output/json.h"
+#include "smbios-inspect/output/json_writer.h"
 #include "structures/base_structure.h"
 
 namespace SMBIOS::Inspect {
 
 /// What there is to ask of the record of a decoder that has processed its structure.
 struct RecordWriter {
-    Json (*json)(const Structures::BaseStructure& decoder);
+    void (*json)(const Structures::BaseStructure& decoder, JsonWriter& json);
     std::vector<FieldText> (*texts)(const Structures::BaseStructure& decoder);
     const std::vector<std::uint8_t>& (*rawBytes)(const Structures::BaseStructure& decoder);
     const std::string& (*error)(const Structures::BaseStructure& decoder);

@@ -20,7 +20,8 @@ RecordWriter WriterOf() {
     using Record = std::remove_cvref_t<decltype(RecordOf<Decoder>(std::declval<const BaseStructure&>()))>;
     static_assert(kIsDescribedWhole<Record>, "a field of the record has no description");
     return {
-        .json = [](const BaseStructure& decoder) { return RecordJson::Of(RecordOf<Decoder>(decoder)); },
+        .json = [](const BaseStructure& decoder,
+                   JsonWriter& json) { RecordJson::Write(json, RecordOf<Decoder>(decoder)); },
         .texts =
             [](const BaseStructure& decoder) {
                 return RecordText::Of(AllFieldsOf<Record>(), RecordOf<Decoder>(decoder));

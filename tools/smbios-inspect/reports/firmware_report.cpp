@@ -2,11 +2,10 @@
 
 #include <ostream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "manager/raw_table.h"
-#include "smbios-inspect/output/json.h"
+#include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/standard/firmware_json.h"
 #include "smbios-inspect/standard/firmware_text.h"
 #include "smbios-inspect/standard/structure.h"
@@ -29,31 +28,20 @@ std::string VersionText(Standard::TableVersion version) {
            std::to_string(version.revision);
 }
 
-/// As an element of a list in an object, without a line end.
-void PrintElement(const Json& json, std::ostream& output) {
-    constexpr std::string_view kIndent = "    ";
-    const std::string text = json.dump(2, ' ', false, Json::error_handler_t::replace);
-    output << kIndent;
-    for (const char character : text) {
-        output << character;
-        if (character == '\n') {
-            output << kIndent;
-        }
-    }
-}
-
-/// One structure after the other: a whole table as JSON would take many times its memory.
 void PrintAsJson(TableWalk walk, const Request& request, std::ostream& output) {
-    output << "{\n  \"version\": \"" << VersionText(walk.Version()) << "\",\n  \"structures\": [";
-    bool isFirst = true;
+    JsonWriter json(output);
+    json.BeginObject();
+    json.Member("version", VersionText(walk.Version()));
+    json.Name("structures");
+    json.BeginArray();
     while (const auto structure = walk.Next()) {
         if (IsAskedFor(*structure, request)) {
-            output << (isFirst ? "\n" : ",\n");
-            PrintElement(Standard::StructureToJson(*structure, request.quiet), output);
-            isFirst = false;
+            Standard::WriteStructure(*structure, request.quiet, json);
         }
     }
-    output << (isFirst ? "]\n}\n" : "\n  ]\n}\n");
+    json.EndArray();
+    json.EndObject();
+    json.EndLine();
 }
 
 void PrintAsText(TableWalk walk, const Request& request, const OutputStyle& style, std::ostream& output) {

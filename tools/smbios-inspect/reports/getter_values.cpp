@@ -2,36 +2,45 @@
 
 namespace SMBIOS::Inspect {
 
-Json ToJson(const Parsers::MEMORY_TYPE_DETAILS& details) {
-    return {
-        {"typeDetailWord", details.typeDetailWord},
-        {"fastPaged", ToJson(details.fastPaged)},
-        {"staticColumn", ToJson(details.staticColumn)},
-        {"pseudoStatic", ToJson(details.pseudoStatic)},
-        {"rambus", ToJson(details.rambus)},
-        {"synchronous", ToJson(details.synchronous)},
-        {"cmos", ToJson(details.cmos)},
-        {"edo", ToJson(details.edo)},
-        {"windowDram", ToJson(details.windowDram)},
-        {"cacheDram", ToJson(details.cacheDram)},
-        {"nonVolatile", ToJson(details.nonVolatile)},
-        {"registered", ToJson(details.registered)},
-        {"unbuffered", ToJson(details.unbuffered)},
-    };
+namespace {
+
+void WriteMember(const char* name, const auto& value, JsonWriter& json) {
+    json.Name(name);
+    Write(value, json);
 }
 
-Json ToJson(const Parsers::PROCESSOR_CHARACTERISTICS& characteristics) {
-    return {
-        {"characteristicsLow", characteristics.characteristicsLow},
-        {"capable64bit", ToJson(characteristics.capable64bit)},
-        {"multiCore", ToJson(characteristics.multiCore)},
-        {"hardwareThread", ToJson(characteristics.hardwareThread)},
-        {"executeProtection", ToJson(characteristics.executeProtection)},
-        {"enhacedVirtualization", ToJson(characteristics.enhacedVirtualization)},
-        {"powerPerformanceControl", ToJson(characteristics.powerPerformanceControl)},
-        {"capable128bit", ToJson(characteristics.capable128bit)},
-        {"arm64SoC_ID", ToJson(characteristics.arm64SoC_ID)},
-    };
+}  // namespace
+
+void Write(const Parsers::MEMORY_TYPE_DETAILS& details, JsonWriter& json) {
+    json.BeginObject();
+    json.Member("typeDetailWord", details.typeDetailWord);
+    WriteMember("fastPaged", details.fastPaged, json);
+    WriteMember("staticColumn", details.staticColumn, json);
+    WriteMember("pseudoStatic", details.pseudoStatic, json);
+    WriteMember("rambus", details.rambus, json);
+    WriteMember("synchronous", details.synchronous, json);
+    WriteMember("cmos", details.cmos, json);
+    WriteMember("edo", details.edo, json);
+    WriteMember("windowDram", details.windowDram, json);
+    WriteMember("cacheDram", details.cacheDram, json);
+    WriteMember("nonVolatile", details.nonVolatile, json);
+    WriteMember("registered", details.registered, json);
+    WriteMember("unbuffered", details.unbuffered, json);
+    json.EndObject();
+}
+
+void Write(const Parsers::PROCESSOR_CHARACTERISTICS& characteristics, JsonWriter& json) {
+    json.BeginObject();
+    json.Member("characteristicsLow", characteristics.characteristicsLow);
+    WriteMember("capable64bit", characteristics.capable64bit, json);
+    WriteMember("multiCore", characteristics.multiCore, json);
+    WriteMember("hardwareThread", characteristics.hardwareThread, json);
+    WriteMember("executeProtection", characteristics.executeProtection, json);
+    WriteMember("enhacedVirtualization", characteristics.enhacedVirtualization, json);
+    WriteMember("powerPerformanceControl", characteristics.powerPerformanceControl, json);
+    WriteMember("capable128bit", characteristics.capable128bit, json);
+    WriteMember("arm64SoC_ID", characteristics.arm64SoC_ID, json);
+    json.EndObject();
 }
 
 }  // namespace SMBIOS::Inspect

@@ -3,89 +3,81 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <string>
 #include <type_traits>
-#include <utility>
 
-#include "smbios-inspect/output/json.h"
-#include "smbios-inspect/output/units.h"
+#include "smbios-inspect/output/json_writer.h"
 #include "smbios/value_types.h"
 
 // How the getters of the exported classes become JSON; an absent value is null.
 namespace SMBIOS::Inspect {
 
-[[nodiscard]] inline Json ToJson(bool value) {
-    return value;
+inline void Write(bool value, JsonWriter& json) {
+    json.Value(value);
 }
 
-[[nodiscard]] inline Json ToJson(const char* text) {
-    return text == nullptr ? Json() : Json(text);
+inline void Write(const char* text, JsonWriter& json) {
+    json.TextOrNull(text);
 }
 
-[[nodiscard]] inline Json ToJson(const Parsers::EBOOL& flag) {
-    return flag.isSet ? Json(flag.value) : Json();
+inline void Write(const Parsers::EBOOL& flag, JsonWriter& json) {
+    flag.isSet ? json.Value(flag.value) : json.Null();
 }
 
 template <class Number>
-requires(std::is_arithmetic_v<Number>) [[nodiscard]] Json ToJson(Number number) {
-    return number == std::numeric_limits<Number>::max() ? Json() : Json(number);
+requires(std::is_arithmetic_v<Number>) void Write(Number number, JsonWriter& json) {
+    number == std::numeric_limits<Number>::max() ? json.Null() : json.Value(number);
 }
 
-[[nodiscard]] Json ToJson(const Parsers::MEMORY_TYPE_DETAILS& details);
-[[nodiscard]] Json ToJson(const Parsers::PROCESSOR_CHARACTERISTICS& characteristics);
+void Write(const Parsers::MEMORY_TYPE_DETAILS& details, JsonWriter& json);
+void Write(const Parsers::PROCESSOR_CHARACTERISTICS& characteristics, JsonWriter& json);
 
-/// One value of a row: its key and how to read it.
+/// One value of a row: its key and how to write it.
 template <class Info>
 struct RowValue {
     const char* key;
-    Json (*read)(const Info& info, std::size_t index);
+    void (*write)(const Info& info, std::size_t index, JsonWriter& json);
 };
 
 /// The value that `Getter` gives for a row.
 template <auto Getter, class Info>
-[[nodiscard]] Json ValueOf(const Info& info, std::size_t index) {
-    return ToJson((info.*Getter)(index));
+void ValueOf(const Info& info, std::size_t index, JsonWriter& json) {
+    Write((info.*Getter)(index), json);
 }
 
-/// The row's string set.
-template <class Info>
-[[nodiscard]] Json StringSessionOf(const Info& info, std::size_t index) {
-    Json strings = Json::array();
-    for (std::size_t i = 0; i < info.GetStringSessionSize(index); ++i) {
-        strings.push_back(ToJson(info.DumpStringSession(index, i)));
+/// The texts that `Getter` gives for a row, as many as `Size` tells.
+template <auto Size, auto Getter, class Info>
+void TextsOf(const Info& info, std::size_t index, JsonWriter& json) {
+    json.BeginArray();
+    for (std::size_t i = 0; i < (info.*Size)(index); ++i) {
+        json.TextOrNull((info.*Getter)(index, i));
     }
-    return strings;
+    json.EndArray();
 }
 
 /// The row's raw bytes in lower-case hexadecimal.
 template <class Info>
-[[nodiscard]] Json RawDataOf(const Info& info, std::size_t index) {
+void RawDataOf(const Info& info, std::size_t index, JsonWriter& json) {
     std::size_t size = 0;
     const std::uint8_t* const bytes = info.DumpRawData(index, size);
-    return bytes == nullptr ? Json() : Json(HexadecimalText({bytes, size}));
+    bytes == nullptr ? json.Null() : json.Hexadecimal({bytes, size});
 }
 
-/// Every value of row `index` under its key, in the order of the list.
+/// The list of all rows: of each, every value under its key, in the order of `values`.
 template <class Info, std::size_t Count>
-[[nodiscard]] Json RowToJson(const Info& info, std::size_t index, const RowValue<Info> (&values)[Count]) {
-    Json row = Json::object();
-    for (const RowValue<Info>& value : values) {
-        row[value.key] = value.read(info, index);
-    }
-    return row;
-}
-
-/// An object whose one member `name` is the list of all rows.
-template <class Info, std::size_t Count>
-[[nodiscard]] Json RowsToJson(const char* name,
-                              const Info& info,
-                              std::size_t rowCount,
-                              const RowValue<Info> (&values)[Count]) {
-    Json rows = Json::array();
+void WriteRows(const Info& info,
+               std::size_t rowCount,
+               const RowValue<Info> (&values)[Count],
+               JsonWriter& json) {
+    json.BeginArray();
     for (std::size_t i = 0; i < rowCount; ++i) {
-        rows.push_back(RowToJson(info, i, values));
+        json.BeginObject();
+        for (const RowValue<Info>& value : values) {
+            json.Name(value.key);
+            value.write(info, i, json);
+        }
+        json.EndObject();
     }
-    return {{name, std::move(rows)}};
+    json.EndArray();
 }
 
 }  // namespace SMBIOS::Inspect

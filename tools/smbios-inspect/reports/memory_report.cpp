@@ -67,7 +67,7 @@ constexpr RowValue<MemoryInfo> kValues[] = {
     {"PositionInRow", ValueOf<&MemoryInfo::GetPositionInRow>},
     {"SizeInKB", ValueOf<&MemoryInfo::GetSizeInKB>},
     {"RawData", RawDataOf<MemoryInfo>},
-    {"StringSession", StringSessionOf<MemoryInfo>},
+    {"StringSession", TextsOf<&MemoryInfo::GetStringSessionSize, &MemoryInfo::DumpStringSession>},
     {"HasError", ValueOf<&MemoryInfo::HasError>},
     {"ErrorMessage", ValueOf<&MemoryInfo::GetErrorMessage>},
 };

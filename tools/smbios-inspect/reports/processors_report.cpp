@@ -21,15 +21,6 @@ using Parsers::ProcessorInfo;
 
 namespace {
 
-/// The supported voltages as a list of texts.
-Json LegacyVoltagesOf(const ProcessorInfo& info, std::size_t index) {
-    Json voltages = Json::array();
-    for (std::size_t i = 0; i < info.GetLegacyVoltageInfoSize(index); ++i) {
-        voltages.push_back(ToJson(info.GetLegacyVoltageInfo(index, i)));
-    }
-    return voltages;
-}
-
 constexpr RowValue<ProcessorInfo> kValues[] = {
     {"Version", ValueOf<&ProcessorInfo::GetVersion>},
     {"Manufacturer", ValueOf<&ProcessorInfo::GetManufacturer>},
@@ -43,7 +34,8 @@ constexpr RowValue<ProcessorInfo> kValues[] = {
     {"StringifiedFamily", ValueOf<&ProcessorInfo::GetStringifiedFamily>},
     {"ProcessorID", ValueOf<&ProcessorInfo::GetProcessorID>},
     {"IsLegacyVoltageInfo", ValueOf<&ProcessorInfo::IsLegacyVoltageInfo>},
-    {"LegacyVoltageInfo", LegacyVoltagesOf},
+    {"LegacyVoltageInfo",
+     TextsOf<&ProcessorInfo::GetLegacyVoltageInfoSize, &ProcessorInfo::GetLegacyVoltageInfo>},
     {"NonLegacyVoltageValue", ValueOf<&ProcessorInfo::GetNonLegacyVoltageValue>},
     {"ExternalClockInMHz", ValueOf<&ProcessorInfo::GetExternalClockInMHz>},
     {"MaxSpeedInMHz", ValueOf<&ProcessorInfo::GetMaxSpeedInMHz>},
@@ -71,7 +63,7 @@ constexpr RowValue<ProcessorInfo> kValues[] = {
     {"VirtualizationFirmwareEnabled", ValueOf<&ProcessorInfo::GetVirtualizationFirmwareEnabled>},
     {"ProcessorCharacteristics", ValueOf<&ProcessorInfo::GetProcessorCharacteristics>},
     {"RawData", RawDataOf<ProcessorInfo>},
-    {"StringSession", StringSessionOf<ProcessorInfo>},
+    {"StringSession", TextsOf<&ProcessorInfo::GetStringSessionSize, &ProcessorInfo::DumpStringSession>},
     {"HasError", ValueOf<&ProcessorInfo::HasError>},
     {"ErrorMessage", ValueOf<&ProcessorInfo::GetErrorMessage>},
 };

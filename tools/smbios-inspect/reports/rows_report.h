@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <iosfwd>
 
-#include "smbios-inspect/output/json.h"
+#include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/output/output_style.h"
 #include "smbios-inspect/reports/getter_values.h"
 #include "smbios-inspect/reports/request.h"
@@ -24,9 +24,13 @@ struct RowsReport {
                const OutputStyle& style,
                std::ostream& output) const {
         if (request.json) {
-            Json report = RowsToJson(name, info, unlisted.listed, values);
-            report["unlisted"] = unlisted.Count();
-            PrintJson(report, output);
+            JsonWriter json(output);
+            json.BeginObject();
+            json.Name(name);
+            WriteRows(info, unlisted.listed, values, json);
+            json.Member("unlisted", unlisted.Count());
+            json.EndObject();
+            json.EndLine();
             return;
         }
         if (unlisted.listed != 0 || unlisted.total == 0) {

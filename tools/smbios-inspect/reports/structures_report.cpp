@@ -1,11 +1,10 @@
 #include "smbios-inspect/reports/structures_report.h"
 
 #include <ostream>
-#include <utility>
 
 #include "manager/decoded_table.h"
 #include "manager/raw_table.h"
-#include "smbios-inspect/output/json.h"
+#include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/records/filed_structure.h"
 
 namespace SMBIOS::Inspect {
@@ -19,16 +18,20 @@ bool IsAskedFor(const FiledStructure& structure, const Request& request) {
 }
 
 void PrintAsJson(const DecodedTable& table, const Request& request, std::ostream& output) {
-    Json list = Json::array();
+    JsonWriter json(output);
+    json.BeginObject();
+    json.Member("version", table.version.text);
+    json.Member("versionIndex", static_cast<int>(table.version.index));
+    json.Name("structures");
+    json.BeginArray();
     for (const FiledStructure& structure : table.structures) {
         if (IsAskedFor(structure, request)) {
-            list.push_back(StructureToJson(structure));
+            WriteStructure(structure, json);
         }
     }
-    PrintJson({{"version", table.version.text},
-               {"versionIndex", static_cast<int>(table.version.index)},
-               {"structures", std::move(list)}},
-              output);
+    json.EndArray();
+    json.EndObject();
+    json.EndLine();
 }
 
 void PrintAsText(const DecodedTable& table,

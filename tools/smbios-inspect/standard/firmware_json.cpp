@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "smbios-inspect/output/units.h"
 #include "smbios-inspect/records/structure_heading.h"
 #include "smbios-inspect/standard/decode.h"
 
@@ -10,87 +9,122 @@ namespace SMBIOS::Inspect::Standard {
 
 namespace {
 
-Json PlainToJson(const Plain& plain) {
-    return std::visit(
-        [](const auto& value) -> Json {
+void WritePlain(const Plain& plain, JsonWriter& json) {
+    std::visit(
+        [&json](const auto& value) {
             if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::monostate>) {
-                return nullptr;
+                json.Null();
             } else {
-                return value;
+                json.Value(value);
             }
         },
         plain);
 }
 
-Json ItemToJson(const Item& item) {
+void WriteItem(const Item& item, JsonWriter& json) {
     if (std::holds_alternative<std::monostate>(item.plain)) {
-        return item.text;
+        json.Value(item.text);
+    } else {
+        WritePlain(item.plain, json);
     }
-    return PlainToJson(item.plain);
-}
-
-Json FieldToJson(const Field& field) {
-    const Value& value = field.value;
-    Json json = {{"value", PlainToJson(value.plain)}};
-    if (!field.unit.empty()) {
-        json["unit"] = field.unit;
-    }
-    if (value.hasWords) {
-        json["text"] = value.text;
-    }
-    if (value.isList) {
-        Json items = Json::array();
-        for (const Item& item : value.items) {
-            items.push_back(ItemToJson(item));
-        }
-        json["items"] = std::move(items);
-    }
-    return json;
 }
 
 /// Fields of a group go into the object of their index in the array that has the group's name.
 class JsonVisitor final : public FieldVisitor {
 public:
+    explicit JsonVisitor(JsonWriter& json) noexcept : json_(json) {}
+
     void Visit(const Field& field) override {
-        ObjectOf(field.place)[std::string(field.name)] = FieldToJson(field);
+        GoTo(field.place);
+        json_.Name(field.name);
+        WriteValue(field, json_);
     }
 
-    [[nodiscard]] Json Take() { return std::move(fields_); }
+    /// Behind the last field.
+    void EndGroup() { GoTo({}); }
 
 private:
-    Json& ObjectOf(const GroupPlace& place) {
-        if (place.group.empty()) {
-            return fields_;
+    void GoTo(const GroupPlace& place) {
+        const bool isSameGroup = place.group == place_.group;
+        if (isSameGroup && place.index == place_.index) {
+            return;
         }
-        Json& objects = fields_[std::string(place.group)];
-        if (objects.size() <= place.index) {
-            objects.push_back(Json::object());
+        if (!place_.group.empty()) {
+            json_.EndObject();
         }
-        return objects.back();
+        if (!isSameGroup) {
+            LeaveAndEnterGroup(place.group);
+        }
+        if (!place.group.empty()) {
+            json_.BeginObject();
+        }
+        place_ = place;
     }
 
-    Json fields_ = Json::object();
+    void LeaveAndEnterGroup(std::string_view group) {
+        if (!place_.group.empty()) {
+            json_.EndArray();
+        }
+        if (!group.empty()) {
+            json_.Name(group);
+            json_.BeginArray();
+        }
+    }
+
+    JsonWriter& json_;
+    GroupPlace place_;  // of the latest field
 };
 
 }  // namespace
 
-Json StructureToJson(const Structure& structure, bool isQuiet) {
-    JsonVisitor visitor;
+void WriteValue(const Field& field, JsonWriter& json) {
+    const Value& value = field.value;
+    json.BeginObject();
+    json.Name("value");
+    WritePlain(value.plain, json);
+    if (!field.unit.empty()) {
+        json.Member("unit", field.unit);
+    }
+    if (value.hasWords) {
+        json.Member("text", value.text);
+    }
+    if (value.isList) {
+        json.Name("items");
+        json.BeginArray();
+        for (const Item& item : value.items) {
+            WriteItem(item, json);
+        }
+        json.EndArray();
+    }
+    json.EndObject();
+}
+
+void WriteStructure(const Structure& structure, bool isQuiet, JsonWriter& json) {
+    json.BeginObject();
+    json.Member("type", structure.Type());
+    json.Member("name", StructureName(structure.Type()));
+    json.Member("handle", structure.Handle());
+    json.Member("length", structure.bytes.size());
+    json.Name("fields");
+    json.BeginObject();
+    JsonVisitor visitor(json);
     VisitFields(structure, visitor);
-    Json json = {{"type", structure.Type()},
-                 {"name", StructureName(structure.Type())},
-                 {"handle", structure.Handle()},
-                 {"length", structure.bytes.size()},
-                 {"fields", visitor.Take()}};
-    if (isQuiet) {
-        return json;
+    visitor.EndGroup();
+    json.EndObject();
+    if (!isQuiet) {
+        json.Name("strings");
+        json.BeginArray();
+        for (const std::string_view text : structure.strings) {
+            json.Value(text);
+        }
+        json.EndArray();
+        json.Name("bytes");
+        json.Hexadecimal(structure.bytes);
+        if (const std::string remark = RemarkOn(structure); !remark.empty()) {
+            json.Member("remark", remark);
+        }
     }
-    json["strings"] = structure.strings;
-    json["bytes"] = HexadecimalText(structure.bytes);
-    if (std::string remark = RemarkOn(structure); !remark.empty()) {
-        json["remark"] = std::move(remark);
-    }
-    return json;
+    json.EndObject();
 }
 
 }  // namespace SMBIOS::Inspect::Standard

@@ -1,0 +1,172 @@
+#include "smbios-inspect/output/json_writer.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "smbios-inspect/output/utf8.h"
+
+namespace SMBIOS::Inspect {
+
+namespace {
+
+constexpr std::size_t kIndent = 2;
+constexpr char kDigits[] = "0123456789abcdef";
+
+/// The characters that stand for themselves in a text: of ASCII all but controls, quote and backslash.
+consteval std::array<bool, 256> PlainBytes() {
+    std::array<bool, 256> isPlain{};
+    for (std::size_t byte = 0x20; byte < 0x7F; ++byte) {
+        isPlain[byte] = byte != '"' && byte != '\\';
+    }
+    return isPlain;
+}
+
+constexpr auto kIsPlain = PlainBytes();
+
+std::size_t PlainLength(std::string_view text) noexcept {
+    const auto isPlain = [](char character) { return kIsPlain[static_cast<std::uint8_t>(character)]; };
+    return static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
+}
+
+/// The letter behind the backslash; 0 for a character that has none.
+char ShortEscapeFor(char character) noexcept {
+    switch (character) {
+        case '\b':
+            return 'b';
+        case '\f':
+            return 'f';
+        case '\n':
+            return 'n';
+        case '\r':
+            return 'r';
+        case '\t':
+            return 't';
+        case '"':
+        case '\\':
+            return character;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
+void JsonWriter::Name(std::string_view name) {
+    BeginElement();
+    PutText(name);
+    Put(": ");
+    isBehindName_ = true;
+}
+
+void JsonWriter::Value(std::string_view text) {
+    BeginElement();
+    PutText(text);
+}
+
+void JsonWriter::Value(float number) {
+    PutElement(nlohmann::json(number).dump());  // whose digits are not always those of std::to_chars
+}
+
+void JsonWriter::Hexadecimal(std::span<const std::uint8_t> bytes) {
+    BeginElement();
+    Put("\"");
+    for (const std::uint8_t byte : bytes) {
+        const char digits[] = {kDigits[byte >> 4], kDigits[byte & 0x0F]};
+        Put({digits, std::size(digits)});
+    }
+    Put("\"");
+}
+
+void JsonWriter::EndLine() {
+    Put("\n");
+    HandOver();
+}
+
+void JsonWriter::Begin(char bracket) {
+    PutElement({&bracket, 1});
+    ++depth_;
+    isFirst_ = true;
+}
+
+void JsonWriter::End(char bracket) {
+    --depth_;
+    if (!isFirst_) {
+        BeginLine();
+    }
+    Put({&bracket, 1});
+    isFirst_ = false;
+}
+
+void JsonWriter::BeginElement() {
+    if (!isBehindName_) {
+        if (!isFirst_) {
+            Put(",");
+        }
+        BeginLine();
+    }
+    isFirst_ = false;
+    isBehindName_ = false;
+}
+
+void JsonWriter::BeginLine() {
+    constexpr std::string_view kBlanks = "\n                                ";
+    Put(kBlanks.substr(0, 1));
+    for (std::size_t missing = kIndent * depth_; missing != 0;) {
+        const std::string_view blanks = kBlanks.substr(1, missing);
+        Put(blanks);
+        missing -= blanks.size();
+    }
+}
+
+void JsonWriter::PutElement(std::string_view text) {
+    BeginElement();
+    Put(text);
+}
+
+void JsonWriter::PutText(std::string_view text) {
+    Put("\"");
+    while (!text.empty()) {
+        const std::size_t plain = PlainLength(text);
+        Put(text.substr(0, plain));
+        text.remove_prefix(plain);
+        if (!text.empty()) {
+            const auto [length, isWhole] = StartOf(text);
+            PutEscaped(isWhole ? text.substr(0, length) : kReplacementCharacter);
+            text.remove_prefix(length);
+        }
+    }
+    Put("\"");
+}
+
+void JsonWriter::PutEscaped(std::string_view character) {
+    if (const char letter = ShortEscapeFor(character.front()); letter != 0) {
+        const char escape[] = {'\\', letter};
+        Put({escape, std::size(escape)});
+    } else if (static_cast<std::uint8_t>(character.front()) < 0x20 || IsDeleteOrC1(character)) {
+        const auto code = static_cast<std::uint8_t>(character.back());  // of two bytes the last is the code
+        const char escape[] = {'\\', 'u', '0', '0', kDigits[code >> 4], kDigits[code & 0x0F]};
+        Put({escape, std::size(escape)});
+    } else {
+        Put(character);
+    }
+}
+
+void JsonWriter::Put(std::string_view text) {
+    while (text.size() > buffer_.size() - used_) {
+        const std::size_t room = buffer_.size() - used_;
+        std::ranges::copy(text.substr(0, room), buffer_.begin() + static_cast<std::ptrdiff_t>(used_));
+        used_ += room;
+        HandOver();
+        text.remove_prefix(room);
+    }
+    std::ranges::copy(text, buffer_.begin() + static_cast<std::ptrdiff_t>(used_));
+    used_ += text.size();
+}
+
+void JsonWriter::HandOver() {
+    output_.write(buffer_.data(), static_cast<std::streamsize>(used_));
+    used_ = 0;
+}
+
+}  // namespace SMBIOS::Inspect
