@@ -33,6 +33,7 @@ std::string JsonOf(const NamedReport& report) {
     Inspect::Request request;
     request.json = true;
     std::ostringstream output;
+    output.exceptions(std::ios_base::badbit);  // a stream swallows what is thrown for want of memory
     report.print(request, Inspect::OutputStyle(), output);
     return output.str();
 }

@@ -14,6 +14,7 @@
 #include "smbios-inspect/command_line/saved_firmware_table.h"
 #include "smbios-inspect/command_line/table_input.h"
 #include "tests/inspect/run_tool.h"
+#include "tests/support/failing_allocation.h"
 
 namespace SMBIOS::Tests {
 namespace {
@@ -53,6 +54,23 @@ TEST_P(SampleReport, IsWhatTheToolPrints) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryName, SampleReport, testing::Values("memory", "processors", "structures"));
+
+TEST(JsonReport, IsWholeOrFails) {
+    const Inspect::TableInput sample(SMBIOS_SAMPLE_TABLE);
+    const Report::NamedReport& structures = Report::FindReport("structures");
+    const std::string whole = Report::JsonOf(structures);
+    bool isShort = true;
+    for (std::size_t n = 1; isShort; ++n) {
+        std::string text = whole;
+        const FailAllocation after(n);
+        try {
+            text = Report::JsonOf(structures);
+        } catch (const std::bad_alloc&) {
+        }
+        isShort = after.HasFailed();
+        ASSERT_TRUE(text == whole) << "allocation " << n;
+    }
+}
 
 // Whatever this machine exposes: its table, or the reason why there is none.
 class MachineReport : public testing::TestWithParam<const char*> {};

@@ -1,6 +1,7 @@
 #include "smbios-inspect/command_line/inspect.h"
 
 #include <exception>
+#include <new>
 #include <ostream>
 
 #include "manager/raw_table.h"
@@ -60,12 +61,11 @@ void WarnOfLostEnd(Command command, std::ostream& errors) {
     }
 }
 
-}  // namespace
-
-int Run(std::span<const std::string_view> arguments,
-        const OutputStyle& style,
-        std::ostream& output,
-        std::ostream& errors) {
+/// Throws std::bad_alloc, also while it tells of another failure.
+int RunOrTell(std::span<const std::string_view> arguments,
+              const OutputStyle& style,
+              std::ostream& output,
+              std::ostream& errors) {
     try {
         const Options options = ParseOptions(arguments);
         const TableInput table = NeedsTable(options.command) ? TableInput(options.report.from) : TableInput();
@@ -76,8 +76,24 @@ int Run(std::span<const std::string_view> arguments,
     } catch (const UsageError& error) {
         errors << "smbios-inspect: " << Printable(error.what()) << "\nSee smbios-inspect --help.\n";
         return kWrongUsage;
+    } catch (const std::bad_alloc&) {
+        throw;
     } catch (const std::exception& error) {
         errors << "smbios-inspect: " << Printable(error.what()) << "\n";
+        return kUnreadable;
+    }
+}
+
+}  // namespace
+
+int Run(std::span<const std::string_view> arguments,
+        const OutputStyle& style,
+        std::ostream& output,
+        std::ostream& errors) {
+    try {
+        return RunOrTell(arguments, style, output, errors);
+    } catch (const std::bad_alloc&) {
+        errors << "smbios-inspect: out of memory\n";
         return kUnreadable;
     }
 }

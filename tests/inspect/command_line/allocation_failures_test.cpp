@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include <new>
+#include <optional>
+#include <ostream>
+#include <streambuf>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "smbios-inspect/command_line/inspect.h"
+#include "tests/inspect/run_tool.h"
+#include "tests/support/failing_allocation.h"
+#include "tests/support/fake_platform.h"
+
+// Every command while one allocation fails, or all from one on, and the same command again.
+namespace SMBIOS::Tests {
+namespace {
+
+/// Collects what is written to it without an allocation.
+class RoomyBuffer final : public std::streambuf {
+public:
+    RoomyBuffer() { text_.reserve(4'194'304); }
+
+    [[nodiscard]] const std::string& Text() const noexcept { return text_; }
+    void Clear() noexcept { text_.clear(); }
+
+private:
+    int_type overflow(int_type character) override {
+        text_ += traits_type::to_char_type(character);
+        return character;
+    }
+    std::streamsize xsputn(const char* text, std::streamsize size) override {
+        text_.append(text, static_cast<std::size_t>(size));
+        return size;
+    }
+
+    std::string text_;
+};
+
+struct CommandCase {
+    const char* name;
+    std::vector<std::string_view> arguments;
+    std::size_t width = 0;
+};
+
+/// Runs a command on the sample table again and again, and keeps what it wrote last.
+class RepeatedCommand {
+public:
+    explicit RepeatedCommand(const CommandCase& command) : arguments_(command.arguments) {
+        arguments_.insert(arguments_.end(), {"--from", SMBIOS_SAMPLE_TABLE});
+        style_.width = command.width;
+    }
+
+    int Run() {
+        output_.Clear();
+        errors_.Clear();
+        std::ostream output(&output_);
+        std::ostream errors(&errors_);
+        return Inspect::Run(arguments_, style_, output, errors);
+    }
+
+    /// Whether the `n`-th allocation, which fails, was one of the command's; its status then.
+    std::optional<int> RunWithoutMemory(std::size_t n, Failing failing) {
+        const FailAllocation after(n, failing);
+        const int status = Run();
+        return after.HasFailed() ? std::optional(status) : std::nullopt;
+    }
+
+    [[nodiscard]] const std::string& Output() const noexcept { return output_.Text(); }
+    [[nodiscard]] const std::string& Errors() const noexcept { return errors_.Text(); }
+
+private:
+    std::vector<std::string_view> arguments_;
+    Inspect::OutputStyle style_;
+    RoomyBuffer output_;
+    RoomyBuffer errors_;
+};
+
+class CommandWithoutMemory : public testing::TestWithParam<CommandCase> {
+protected:
+    void ExpectTheWholeOutputAfterAnyFailure(Failing failing) {
+        FakeCommandRunner powershell;
+        powershell.FailToStart();
+        RepeatedCommand command(GetParam());
+        ASSERT_EQ(command.Run(), Inspect::kSuccess) << command.Errors();
+        const std::string whole = command.Output();
+        std::size_t n = 1;
+        while (const std::optional<int> status = command.RunWithoutMemory(n, failing)) {
+            if (*status == Inspect::kSuccess) {
+                ASSERT_EQ(command.Output(), whole) << "allocation " << n;
+            } else {
+                ASSERT_EQ(*status, Inspect::kUnreadable) << "allocation " << n;
+                ASSERT_TRUE(command.Errors().starts_with("smbios-inspect: ")) << "allocation " << n;
+                ASSERT_TRUE(whole.starts_with(command.Output())) << "allocation " << n;
+            }
+            ASSERT_EQ(command.Run(), Inspect::kSuccess) << "behind allocation " << n;
+            ASSERT_EQ(command.Output(), whole) << "behind allocation " << n;
+            ++n;
+        }
+        EXPECT_GT(n, 10U);
+    }
+};
+
+TEST_P(CommandWithoutMemory, OnceGivesEverythingTheNextTime) {
+    ExpectTheWholeOutputAfterAnyFailure(Failing::once);
+}
+
+TEST_P(CommandWithoutMemory, FromThenOnGivesEverythingTheNextTime) {
+    ExpectTheWholeOutputAfterAnyFailure(Failing::fromThenOn);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool,
+                         CommandWithoutMemory,
+                         testing::Values(CommandCase{"Summary", {"summary"}},
+                                         CommandCase{"SummaryOnATerminal", {"summary"}, 60},
+                                         CommandCase{"Memory", {"memory"}, 80},
+                                         CommandCase{"MemoryJson", {"memory", "--json"}},
+                                         CommandCase{"Processors", {"processors"}, 80},
+                                         CommandCase{"ProcessorsJson", {"processors", "--json"}},
+                                         CommandCase{"Structures", {"structures"}, 80},
+                                         CommandCase{"StructuresJson", {"structures", "--json"}},
+                                         CommandCase{"Firmware", {"firmware"}},
+                                         CommandCase{"FirmwareJson", {"firmware", "--json"}}),
+                         [](const auto& each) { return std::string(each.param.name); });
+
+}  // namespace
+}  // namespace SMBIOS::Tests
