@@ -103,16 +103,6 @@ TEST(JsonWriter, LeavesOtherCharactersAsTheyAre) {
     EXPECT_EQ(Written(text), "\"" + text + "\"\n");
 }
 
-TEST(JsonWriter, EscapesInNamesToo) {
-    EXPECT_EQ(JsonText([](JsonWriter& json) {
-                  json.BeginObject();
-                  json.Name("\x7F");
-                  json.Null();
-                  json.EndObject();
-              }),
-              "{\n  \"\\u007f\": null\n}\n");
-}
-
 TEST(JsonWriter, ReplacesBytesThatAreNotUtf8) {
     EXPECT_EQ(Written("\x9B"), "\"\xEF\xBF\xBD\"\n");
 }

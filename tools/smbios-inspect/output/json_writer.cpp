@@ -54,8 +54,9 @@ char ShortEscapeFor(char character) noexcept {
 
 void JsonWriter::Name(std::string_view name) {
     BeginElement();
-    PutText(name);
-    Put(": ");
+    Put("\"");
+    Put(name);
+    Put("\": ");
     isBehindName_ = true;
 }
 
@@ -72,8 +73,9 @@ void JsonWriter::Hexadecimal(std::span<const std::uint8_t> bytes) {
     BeginElement();
     Put("\"");
     for (const std::uint8_t byte : bytes) {
-        const char digits[] = {kDigits[byte >> 4], kDigits[byte & 0x0F]};
-        Put({digits, std::size(digits)});
+        char* const digits = RoomFor(2);
+        digits[0] = kDigits[byte >> 4];
+        digits[1] = kDigits[byte & 0x0F];
     }
     Put("\"");
 }
@@ -110,12 +112,12 @@ void JsonWriter::BeginElement() {
 }
 
 void JsonWriter::BeginLine() {
-    constexpr std::string_view kBlanks = "\n                                ";
-    Put(kBlanks.substr(0, 1));
-    for (std::size_t missing = kIndent * depth_; missing != 0;) {
-        const std::string_view blanks = kBlanks.substr(1, missing);
-        Put(blanks);
-        missing -= blanks.size();
+    constexpr std::string_view kLineStart = "\n                                ";
+    std::size_t indent = kIndent * depth_;
+    Put(kLineStart.substr(0, 1 + indent));
+    while (indent > kLineStart.size() - 1) {
+        indent -= kLineStart.size() - 1;
+        Put(kLineStart.substr(1, indent));
     }
 }
 
@@ -126,15 +128,15 @@ void JsonWriter::PutElement(std::string_view text) {
 
 void JsonWriter::PutText(std::string_view text) {
     Put("\"");
-    while (!text.empty()) {
-        const std::size_t plain = PlainLength(text);
+    for (std::size_t plain = PlainLength(text);; plain = PlainLength(text)) {
         Put(text.substr(0, plain));
         text.remove_prefix(plain);
-        if (!text.empty()) {
-            const auto [length, isWhole] = StartOf(text);
-            PutEscaped(isWhole ? text.substr(0, length) : kReplacementCharacter);
-            text.remove_prefix(length);
+        if (text.empty()) {
+            break;
         }
+        const auto [length, isWhole] = StartOf(text);
+        PutEscaped(isWhole ? text.substr(0, length) : kReplacementCharacter);
+        text.remove_prefix(length);
     }
     Put("\"");
 }
@@ -152,16 +154,24 @@ void JsonWriter::PutEscaped(std::string_view character) {
     }
 }
 
-void JsonWriter::Put(std::string_view text) {
-    while (text.size() > buffer_.size() - used_) {
-        const std::size_t room = buffer_.size() - used_;
-        std::ranges::copy(text.substr(0, room), buffer_.begin() + static_cast<std::ptrdiff_t>(used_));
+void JsonWriter::PutInParts(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t room = std::min(buffer_.size() - used_, text.size());
+        text.copy(buffer_.data() + used_, room);
         used_ += room;
-        HandOver();
         text.remove_prefix(room);
+        if (used_ == buffer_.size()) {
+            HandOver();
+        }
     }
-    std::ranges::copy(text, buffer_.begin() + static_cast<std::ptrdiff_t>(used_));
-    used_ += text.size();
+}
+
+char* JsonWriter::RoomFor(std::size_t count) {
+    if (count > buffer_.size() - used_) {
+        HandOver();
+    }
+    used_ += count;
+    return buffer_.data() + used_ - count;
 }
 
 void JsonWriter::HandOver() {

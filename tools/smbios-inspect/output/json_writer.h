@@ -27,7 +27,8 @@ public:
     void BeginArray() { Begin('['); }
     void EndArray() { End(']'); }
 
-    /// The value that follows is the object's member of this name.
+    /// The value that follows is the object's member of this name, one of the program's own: no character of
+    /// it needs an escape.
     void Name(std::string_view name);
 
     void Null() { PutElement("null"); }
@@ -68,8 +69,18 @@ private:
     void PutElement(std::string_view text);
     void PutText(std::string_view text);
     void PutEscaped(std::string_view character);
-    void Put(std::string_view text);
+    void PutInParts(std::string_view text);
+    char* RoomFor(std::size_t count);  // at most what the buffer holds
     void HandOver();
+
+    void Put(std::string_view text) {
+        if (text.size() > buffer_.size() - used_) {
+            PutInParts(text);
+            return;
+        }
+        text.copy(buffer_.data() + used_, text.size());
+        used_ += text.size();
+    }
 
     std::ostream& output_;
     std::size_t depth_ = 0;

@@ -1,5 +1,6 @@
 #include "smbios-inspect/records/record_json.h"
 
+#include <bit>
 #include <string>
 
 #include "smbios-inspect/records/record_fields_system.h"
@@ -8,24 +9,33 @@ namespace SMBIOS::Inspect {
 
 using Structures::Type3::Types::ContainedElements;
 
+namespace {
+
+/// The flag word; no field has more than 64 bits.
+std::uint64_t ValueOf(const Common::Dynamic_BitSet& flags) noexcept {
+    std::uint64_t value = 0;
+    for (std::size_t i = 0; i < flags.bytes.size(); ++i) {
+        value |= std::uint64_t{flags.bytes[i]} << (8 * i);
+    }
+    return value;
+}
+
+}  // namespace
+
 void RecordJson::Write(JsonWriter& json, const Common::Dynamic_BitSet& flags) {
     json.BeginObject();
     json.Member("bitCount", flags.GetBitCount());
-    std::uint64_t value = 0;
-    for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
-        value |= std::uint64_t{flags.Test(bit)} << bit;
-    }
+    const std::uint64_t value = ValueOf(flags);
     json.Member("value", value);
     json.Name("set");
     json.BeginArray();
-    for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
-        if (flags.Test(bit)) {
-            json.BeginObject();
-            json.Member("bit", bit);
-            json.Name("name");
-            json.TextOrNull(flags.GetBitName(bit));
-            json.EndObject();
-        }
+    for (std::uint64_t rest = value; rest != 0; rest &= rest - 1) {
+        const auto bit = static_cast<std::size_t>(std::countr_zero(rest));
+        json.BeginObject();
+        json.Member("bit", bit);
+        json.Name("name");
+        json.TextOrNull(flags.GetBitName(bit));
+        json.EndObject();
     }
     json.EndArray();
     json.EndObject();
