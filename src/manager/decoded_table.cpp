@@ -37,11 +37,13 @@ void FileStructures(std::span<const std::uint8_t> structureTable,
                     SmbiosVersionIndex version,
                     FiledStructures& structures) {
     StructureWalk walk(structureTable);
+    RawStructure raw;
     bool ranOutOfMemory = false;
-    while (std::optional<RawStructure> structure = walk.Next()) {
+    while (const std::optional<StructureView> structure = walk.Next()) {
         auto [key, decoder] =
             Structures::StructureFactory::CreateTablePtr(Types::StructureTypes{structure->type}, version);
-        decoder->Process(structure->formattedBytes, structure->strings);
+        raw.Assign(*structure);
+        decoder->Process(raw.formattedBytes, raw.strings);
         ranOutOfMemory = ranOutOfMemory || decoder->RanOutOfMemory();
         structures.emplace(key, std::move(decoder));
     }

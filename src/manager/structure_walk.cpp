@@ -1,6 +1,7 @@
 #include "manager/structure_walk.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace SMBIOS::Manager {
 
@@ -8,36 +9,42 @@ namespace {
 
 constexpr std::size_t kTypeAndLength = 2;
 
-std::vector<std::string> SplitAtZeros(std::span<const std::uint8_t> bytes) {
-    std::vector<std::string> strings;
-    if (bytes.empty()) {
-        return strings;
+std::string_view AsText(std::span<const std::uint8_t> bytes) noexcept {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+/// Where two zeros stand next to each other for the first time; npos where they never do.
+std::size_t FindDoubleZero(std::string_view bytes) noexcept {
+    std::size_t zero = bytes.find('\0');
+    while (zero != std::string_view::npos && zero + 1 < bytes.size() && bytes[zero + 1] != '\0') {
+        zero = bytes.find('\0', zero + 2);
     }
-    auto begin = bytes.begin();
-    for (;;) {
-        const auto end = std::find(begin, bytes.end(), std::uint8_t{0});
-        strings.emplace_back(begin, end);
-        if (end == bytes.end()) {
-            return strings;
-        }
-        begin = end + 1;
-    }
+    return zero + 1 < bytes.size() ? zero : std::string_view::npos;
 }
 
 }  // namespace
 
-std::optional<RawStructure> StructureWalk::Next() {
+void RawStructure::Assign(const StructureView& structure) {
+    type = structure.type;
+    formattedBytes.assign(structure.formattedArea.begin(), structure.formattedArea.end());
+    const std::string_view texts = AsText(structure.stringSet);
+    strings.resize(texts.empty() ? 0 : static_cast<std::size_t>(std::ranges::count(texts, '\0')) + 1);
+    std::size_t begin = 0;
+    for (std::string& text : strings) {
+        const std::size_t end = std::min(texts.find('\0', begin), texts.size());
+        text.assign(texts, begin, end - begin);
+        begin = end + 1;
+    }
+}
+
+std::optional<StructureView> StructureWalk::Next() noexcept {
     if (rest_.size() < kTypeAndLength || rest_.size() < rest_[1]) {
         return std::nullopt;
     }
-    const std::span<const std::uint8_t> formattedArea = rest_.first(rest_[1]);
     const std::size_t sizeBefore = rest_.size();
-
-    RawStructure structure;
-    structure.type = rest_[0];
-    structure.formattedBytes.assign(formattedArea.begin(), formattedArea.end());
-    rest_ = rest_.subspan(formattedArea.size());
-    structure.strings = TakeStrings();
+    StructureView structure{.type = rest_[0], .formattedArea = rest_.first(rest_[1]), .stringSet = {}};
+    rest_ = rest_.subspan(structure.formattedArea.size());
+    structure.stringSet = TakeStringSet();
 
     if (rest_.size() == sizeBefore) {
         return std::nullopt;
@@ -45,21 +52,19 @@ std::optional<RawStructure> StructureWalk::Next() {
     return structure;
 }
 
-std::vector<std::string> StructureWalk::TakeStrings() {
+std::span<const std::uint8_t> StructureWalk::TakeStringSet() noexcept {
     if (!mayHoldDoubleZero_) {
         return {};
     }
-    const auto doubleZero = std::ranges::adjacent_find(
-        rest_, [](std::uint8_t first, std::uint8_t second) { return first == 0 && second == 0; });
-    if (doubleZero == rest_.end()) {
+    const std::size_t length = FindDoubleZero(AsText(rest_));
+    if (length == std::string_view::npos) {
         mayHoldDoubleZero_ =
             false;  // searched once only, or a long table would be searched for every structure
         return {};
     }
-    const auto length = static_cast<std::size_t>(doubleZero - rest_.begin());
-    std::vector<std::string> strings = SplitAtZeros(rest_.first(length));
+    const auto stringSet = rest_.first(length);
     rest_ = rest_.subspan(length + 2);
-    return strings;
+    return stringSet;
 }
 
 }  // namespace SMBIOS::Manager

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -9,11 +8,21 @@
 
 namespace SMBIOS::Manager {
 
-/// One structure cut out of the table.
+/// One structure where it stands in its table. A view: valid only while the table is.
+struct StructureView {
+    std::uint8_t type = 0;
+    std::span<const std::uint8_t> formattedArea;  ///< header included
+    std::span<const std::uint8_t> stringSet;      ///< without the two zeros behind it
+};
+
+/// One structure as decoders take it.
 struct RawStructure {
     std::uint8_t type = 0;
     std::vector<std::uint8_t> formattedBytes;  ///< header included
     std::vector<std::string> strings;          ///< string number 1 first
+
+    /// Copies another structure into the memory of the one before. Throws std::bad_alloc.
+    void Assign(const StructureView& structure);
 };
 
 /// Cuts a structure table into its structures, in table order. Neither type 127 nor type 126 is special. The
@@ -25,10 +34,10 @@ public:
 
     /// The next structure; no value when the walk has ended. Takes time linear in the table over a whole
     /// walk.
-    [[nodiscard]] std::optional<RawStructure> Next();
+    [[nodiscard]] std::optional<StructureView> Next() noexcept;
 
 private:
-    [[nodiscard]] std::vector<std::string> TakeStrings();
+    [[nodiscard]] std::span<const std::uint8_t> TakeStringSet() noexcept;
 
     std::span<const std::uint8_t> rest_;
     bool mayHoldDoubleZero_ = true;

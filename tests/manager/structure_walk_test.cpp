@@ -16,8 +16,10 @@ using Strings = std::vector<std::string>;
 std::vector<RawStructure> Walked(const Bytes& table) {
     std::vector<RawStructure> structures;
     StructureWalk walk(table);
-    while (auto structure = walk.Next()) {
-        structures.push_back(std::move(*structure));
+    RawStructure raw;
+    while (const auto structure = walk.Next()) {
+        raw.Assign(*structure);
+        structures.push_back(raw);
     }
     return structures;
 }

@@ -182,8 +182,10 @@ TEST(StructuresOfRandomTables, RandomBytesGiveValidJsonAndHarmlessText) {
         const std::vector<std::uint8_t> table = random.Bytes(random.Below(600));
         std::vector<FiledStructure> structures;
         Manager::StructureWalk walk(table);
-        while (const std::optional<Manager::RawStructure> structure = walk.Next()) {
-            structures.push_back(Decoded(*structure, version));
+        Manager::RawStructure raw;
+        while (const auto structure = walk.Next()) {
+            raw.Assign(*structure);
+            structures.push_back(Decoded(raw, version));
         }
         ASSERT_NO_FATAL_FAILURE(ExpectValidJson(structures)) << "table " << i;
         ASSERT_NO_FATAL_FAILURE(ExpectHarmlessText(structures, {.width = random.Below(120)}))

@@ -293,13 +293,14 @@ TEST(MemoryReport, OfASavedTableRunsNoCommand) {
 std::size_t ListedDevices(const std::vector<std::uint8_t>& rawTable) {
     std::set<std::string> serialNumbers;
     Manager::StructureWalk walk{std::span{rawTable}.subspan(8)};
+    Manager::RawStructure raw;
     while (const auto structure = walk.Next()) {
         if (structure->type != 17) {
             continue;
         }
-        const std::size_t number =
-            structure->formattedBytes.size() > 0x18 ? structure->formattedBytes[0x18] : 0;
-        std::string serial = number == 0 ? "" : structure->strings.at(number - 1);
+        raw.Assign(*structure);
+        const std::size_t number = raw.formattedBytes.size() > 0x18 ? raw.formattedBytes[0x18] : 0;
+        std::string serial = number == 0 ? "" : raw.strings.at(number - 1);
         serial.erase(0, serial.find_first_not_of(' '));
         serial.erase(serial.find_last_not_of(' ') + 1);
         if (serial.empty()) {
