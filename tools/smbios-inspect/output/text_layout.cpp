@@ -34,6 +34,12 @@ bool IsControl(std::string_view character) noexcept {
     return first < 0x20 || IsDeleteOrC1(character) || IsLayoutControl(character);
 }
 
+/// Number of characters of ASCII at the start of `text` that are no controls.
+std::size_t PlainLength(std::string_view text) noexcept {
+    const auto isPlain = [](char character) { return ' ' <= character && character <= '~'; };
+    return static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
+}
+
 /// Where the character behind the first `count` ones begins; the end of `text` when there is none.
 std::size_t EndOfCharacters(std::string_view text, std::size_t count) noexcept {
     std::size_t end = 0;
@@ -94,18 +100,18 @@ std::string_view EscapeSequenceFor(Emphasis emphasis) noexcept {
 
 std::string Printable(std::string_view text) {
     std::string printable;
-    while (!text.empty()) {
-        const auto [length, isWhole] = StartOf(text);
-        if (!isWhole) {
-            printable += kReplacementCharacter;
-            text.remove_prefix(1);
-            continue;
+    for (;;) {
+        const std::size_t plain = PlainLength(text);
+        printable += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty()) {
+            return printable;
         }
-        const std::string_view character = text.substr(0, length);
-        printable += IsControl(character) ? kReplacementCharacter : character;
-        text.remove_prefix(length);
+        const auto [length, isWhole] = StartOf(text);
+        const bool isShown = isWhole && !IsControl(text.substr(0, length));
+        printable += isShown ? text.substr(0, length) : kReplacementCharacter;
+        text.remove_prefix(isWhole ? length : 1);
     }
-    return printable;
 }
 
 std::size_t DisplayWidth(std::string_view text) noexcept {

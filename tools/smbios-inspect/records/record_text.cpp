@@ -10,28 +10,31 @@ Lines RecordText::LinesOf(float number) {
 }
 
 Lines RecordText::LinesOf(const std::vector<std::uint8_t>& bytes) {
-    Lines texts;
-    for (const std::uint8_t byte : bytes) {
-        texts.push_back(Common::format("{:02x}", byte));
+    const std::string digits = HexadecimalText(bytes);
+    std::string line;
+    line.reserve(3 * bytes.size());
+    for (std::size_t i = 0; i < digits.size(); i += 2) {
+        line.append(i == 0 ? "" : " ").append(digits, i, 2);
     }
-    return texts.empty() ? Lines() : Lines{Joined(texts, " ")};
+    return line.empty() ? Lines() : Lines{std::move(line)};
 }
 
 Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits) {
-    Lines names;
+    std::string names;
     for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
         if (!flags.Test(bit)) {
             continue;
         }
+        names += names.empty() ? "" : ", ";
         const char* const name = flags.GetBitName(bit);
-        const Lines word = WordFor(static_cast<int>(bit), bits.other, bits.unknown);
         if (name != nullptr) {
-            names.emplace_back(name);
+            names += name;
         } else {
-            names.push_back(word.empty() ? "bit " + std::to_string(bit) : word.front());
+            const Lines word = WordFor(static_cast<int>(bit), bits.other, bits.unknown);
+            names += word.empty() ? "bit " + std::to_string(bit) : word.front();
         }
     }
-    return {names.empty() ? "none" : Joined(names, ", ")};
+    return {names.empty() ? "none" : std::move(names)};
 }
 
 Lines RecordText::LinesOf(const Structures::Type3::Types::ContainedElements& elements) {
