@@ -1,6 +1,7 @@
 #include "smbios-inspect/reports/memory_report.h"
 
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <ostream>
 #include <string>
@@ -123,7 +124,7 @@ void ReportMemory(const Request& request, const OutputStyle& style, std::ostream
     MemoryInfo info;
     info.RetrieveInfo();
     const SmbiosManager& manager = *SmbiosManager::GetInstance();
-    const RowsReport report{
+    const RowsReport<MemoryInfo, std::size(kValues)> report{
         "devices",
         kValues,
         PrintTable,

@@ -1,6 +1,7 @@
 #include "smbios-inspect/reports/processors_report.h"
 
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <ostream>
 #include <string>
@@ -129,7 +130,7 @@ void ReportProcessors(const Request& request, const OutputStyle& style, std::ost
     ProcessorInfo info;
     info.RetrieveInfo();
     const SmbiosManager& manager = *SmbiosManager::GetInstance();
-    const RowsReport report{
+    const RowsReport<ProcessorInfo, std::size(kValues)> report{
         "processors",
         kValues,
         PrintTable,
