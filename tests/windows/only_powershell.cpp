@@ -58,6 +58,14 @@ ScriptedPowerShell::ScriptedPowerShell(std::string_view output,
     Folder().Write("exit-status.txt", std::to_string(exitStatus));
 }
 
+void ScriptedPowerShell::GoOnWithoutEnd() const {
+    Folder().Write("without-end", "");
+}
+
+void ScriptedPowerShell::Linger() const {
+    Folder().Write("lingering", "");
+}
+
 std::size_t ScriptedPowerShell::Runs() const {
     const fs::path notes = Folder().Path() / "runs.txt";
     return fs::exists(notes) ? static_cast<std::size_t>(fs::file_size(notes)) : 0;

@@ -39,6 +39,12 @@ public:
                                 std::string_view errorOutput = {},
                                 int exitStatus = 0);
 
+    /// Prints its output again and again, until nobody reads it any more.
+    void GoOnWithoutEnd() const;
+
+    /// Stays for a while when it has closed its output.
+    void Linger() const;
+
     /// How often it was run.
     [[nodiscard]] std::size_t Runs() const;
 };

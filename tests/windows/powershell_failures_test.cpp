@@ -91,6 +91,40 @@ TEST_F(PowerShellFailures, PrintsADocumentOfAnotherKind) {
     ExpectNothingCompleted();
 }
 
+TEST_F(PowerShellFailures, NestsAMemberSixtyThousandDeep) {
+    constexpr std::size_t kDepth = 60'000;
+    const ScriptedPowerShell powerShell(R"({"ProcessorId": "BFEBFBFF000406F1", "Name": )" +
+                                        std::string(kDepth, '[') + std::string(kDepth, ']') +
+                                        R"(, "NumberOfCores": 8})");
+    ExpectNothingCompleted();
+}
+
+TEST_F(PowerShellFailures, CrashesWithinItsAnswer) {
+    constexpr auto kAccessViolation = static_cast<int>(0xC0000005);
+    const std::string answer = kAnswer;
+    const ScriptedPowerShell powerShell(answer.substr(0, answer.size() - 1), "", kAccessViolation);
+    ExpectNothingCompleted();
+}
+
+TEST_F(PowerShellFailures, GoesOnWithoutEndBehindWhatIsNotJson) {
+    const ScriptedPowerShell powerShell("no JSON\r\n");
+    powerShell.GoOnWithoutEnd();
+    ExpectNothingCompleted();
+    EXPECT_EQ(powerShell.Runs(), std::size_t{kCalls});
+}
+
+TEST_F(PowerShellFailures, StaysWhenItHasClosedItsOutput) {
+    const ScriptedPowerShell powerShell(kAnswer);
+    powerShell.Linger();
+    ExpectCompleted();
+}
+
+TEST_F(PowerShellFailures, PrintsANulBehindItsAnswer) {
+    using namespace std::string_literals;
+    const ScriptedPowerShell powerShell(kAnswer + "\0rubbish"s);
+    ExpectCompleted();
+}
+
 TEST_F(PowerShellFailures, EndsWithAnErrorAfterItsAnswer) {
     const ScriptedPowerShell powerShell(kAnswer, "Something went wrong\r\n", 1);
     ExpectCompleted();
