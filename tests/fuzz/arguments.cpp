@@ -1,5 +1,5 @@
-// The tool's arguments, separated by line feeds: either refused with a message, or options that mean the same
-// when they are written out and read again.
+// The tool's arguments, separated by line feeds: either refused with a message, or options of their command
+// that mean the same when they are written out and read again.
 
 #include <cstddef>
 #include <cstdint>
@@ -85,6 +85,13 @@ auto MeaningOf(const Options& options) {
                     report.quiet);
 }
 
+void RequireNothingOfOtherCommands(const Options& options) {
+    const bool isOfSave = options.force || !options.target.empty();
+    const bool isOfFirmware = options.report.quiet || !options.report.handles.empty();
+    Fuzz::Require(!isOfSave || options.command == Command::save, "only save takes a file and --force");
+    Fuzz::Require(!isOfFirmware || options.command == Command::firmware, "only firmware takes them");
+}
+
 void RequireTheSameAgain(const Options& options) {
     const std::vector<std::string> written = WrittenOut(options);
     const Options again =
@@ -97,7 +104,9 @@ void RequireTheSameAgain(const Options& options) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
-        RequireTheSameAgain(Inspect::ParseOptions(Lines(text)));
+        const Options options = Inspect::ParseOptions(Lines(text));
+        RequireNothingOfOtherCommands(options);
+        RequireTheSameAgain(options);
     } catch (const Inspect::UsageError& error) {
         const std::string message = Inspect::Printable(error.what());
         Fuzz::Require(!message.empty() && Tests::IsHarmlessText(message),
