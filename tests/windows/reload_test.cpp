@@ -14,22 +14,16 @@
 namespace SMBIOS::Tests {
 namespace {
 
-constexpr const wchar_t* kLibrary = L"vantor-shared-smbios-v2.dll";
-constexpr const wchar_t* kReportLibrary = L"vantor-shared-smbios-report-v2.dll";
-
-bool IsLoaded(const wchar_t* fileName) noexcept {
-    return ::GetModuleHandleW(fileName) != nullptr;
-}
-
-/// A library, loaded for as long as this object lives.
+/// The library, loaded for as long as this object lives.
 class LoadedLibrary {
 public:
-    explicit LoadedLibrary(const wchar_t* fileName) : module_(::LoadLibraryW(fileName)) {}
+    LoadedLibrary() : module_(::LoadLibraryW(kFileName)) {}
     LoadedLibrary(const LoadedLibrary&) = delete;
     LoadedLibrary& operator=(const LoadedLibrary&) = delete;
     ~LoadedLibrary() { ::FreeLibrary(module_); }
 
     [[nodiscard]] HMODULE Module() const noexcept { return module_; }
+    [[nodiscard]] static bool IsLoaded() noexcept { return ::GetModuleHandleW(kFileName) != nullptr; }
 
     /// The function exported under this name.
     template <class Function>
@@ -38,6 +32,8 @@ public:
     }
 
 private:
+    static constexpr const wchar_t* kFileName = L"vantor-shared-smbios-v2.dll";
+
     HMODULE module_;
 };
 
@@ -82,7 +78,7 @@ StructureBuilder CompleteMemoryDevice(const std::string& serialNumber) {
 
 /// Loads the library, reads the one device it is served, and frees it. Returns the serial number.
 std::string ReadSerialNumber(const std::string& served) {
-    const LoadedLibrary library(kLibrary);
+    const LoadedLibrary library;
     const ServedTable table(library.Module(), TableOf(CompleteMemoryDevice(served)).RawTable());
     LoadedMemoryInfo info(library);
     info.RetrieveInfo();
@@ -90,37 +86,12 @@ std::string ReadSerialNumber(const std::string& served) {
     return read == nullptr ? std::string() : std::string(read);
 }
 
-/// Loads the report library, makes a report of the one device it is served and fails to make another one, and
-/// frees it. Returns the report.
-std::string ReadReport(const std::string& served) {
-    const LoadedLibrary library(kReportLibrary);
-    const ServedTable table(library.Module(), TableOf(CompleteMemoryDevice(served)).RawTable());
-    const auto report = [&](const char* name) {
-        char* text = nullptr;
-        library.Find<int(const char*, char**)>("smbios_report")(name, &text);
-        const std::string copy = text == nullptr ? std::string() : std::string(text);
-        library.Find<void(char*)>("smbios_report_free")(text);
-        return copy;
-    };
-    (void)report("no report");
-    return report("memory");
-}
-
 /// Loads the library so often, each time with another table than the time before.
 void Reload(std::size_t times) {
     for (std::size_t i = 0; i < times; ++i) {
         const std::string serialNumber = i % 2 == 0 ? "EVEN" : "ODD";
         ASSERT_EQ(ReadSerialNumber(serialNumber), serialNumber);
-        ASSERT_FALSE(IsLoaded(kLibrary));
-    }
-}
-
-/// Likewise the report library.
-void ReloadReport(std::size_t times) {
-    for (std::size_t i = 0; i < times; ++i) {
-        const std::string serialNumber = i % 2 == 0 ? "EVEN" : "ODD";
-        ASSERT_NE(ReadReport(serialNumber).find('"' + serialNumber + '"'), std::string::npos);
-        ASSERT_FALSE(IsLoaded(kReportLibrary));
+        ASSERT_FALSE(LoadedLibrary::IsLoaded());
     }
 }
 
@@ -136,33 +107,17 @@ struct Usage {
     std::size_t heapBytes = HeapBytesInUse();
 };
 
-/// Expects that what is done a hundred times leaves nothing behind.
-template <class Action>
-void ExpectNothingLeftBehind(Action reload) {
+TEST(Reload, LeavesNeitherHandlesNorMemoryBehind) {
     constexpr std::size_t kTimes = 100;
     constexpr std::size_t kNoise = std::size_t{64} << 10;  // of the process as a whole, not of each time
-    reload(3);
+    const ScriptedPowerShell powerShell("[]");
+    Reload(3);
     const Usage before;
-    reload(kTimes);
+    Reload(kTimes);
     const Usage after;
     EXPECT_LE(after.handles, before.handles);
     EXPECT_LE(after.heapBytes, before.heapBytes + kNoise);
     EXPECT_LE(after.privateBytes, before.privateBytes + kNoise);
-}
-
-TEST(Reload, LeavesNeitherHandlesNorMemoryBehind) {
-    const ScriptedPowerShell powerShell("[]");
-    ExpectNothingLeftBehind(Reload);
-}
-
-TEST(Reload, LeavesNothingBehindWithoutPowerShell) {
-    const NoPowerShell powerShell;
-    ExpectNothingLeftBehind(Reload);
-}
-
-TEST(Reload, OfTheReportLibraryLeavesNothingBehind) {
-    const ScriptedPowerShell powerShell("[]");
-    ExpectNothingLeftBehind(ReloadReport);
 }
 
 }  // namespace
