@@ -54,6 +54,31 @@ std::vector<int> HandlesOf(const Request& request) {
     return handles;
 }
 
+std::set<int> TypesOf(const Json& report) {
+    std::set<int> types;
+    for (const Json& structure : report.at("structures")) {
+        types.insert(structure.at("type").get<int>());
+    }
+    return types;
+}
+
+// The sample
+
+TEST(FirmwareReport, TheSampleReadsLikeItsGoldenText) {
+    const ToolResult result = RunTool({"firmware", "--from", SMBIOS_SAMPLE_TABLE});
+    EXPECT_EQ(result.output, GoldenText("workstation-firmware.txt"));
+}
+
+TEST(FirmwareReport, TheSampleHasEveryTypeThatTheFirmwareOfWorkstationsWrites) {
+    const ToolResult result = RunTool({"firmware", "--json", "--from", SMBIOS_SAMPLE_TABLE});
+    const std::set<int> written = {0,  1,  2,  3,  4,  7,  8,  9,  10, 11, 12,  13,  14,
+                                   15, 16, 17, 18, 19, 20, 21, 22, 24, 26, 27,  28,  29,
+                                   32, 33, 34, 35, 36, 39, 41, 43, 44, 45, 126, 127, 200};
+    EXPECT_EQ(TypesOf(Json::parse(result.output)), written);
+}
+
+// Which structures
+
 TEST(FirmwareReport, HasTheVersionAndEveryStructureInTableOrder) {
     const Json report = Json::parse(FirmwareReport(SmallTable(), {.json = true}));
     EXPECT_EQ(report.at("version"), "3.2.1");
