@@ -22,8 +22,8 @@ _smbios_inspect_options() {
         structures) echo --from --json --type ;;
         firmware) echo --from --handle --json --quiet --type ;;
         save) echo --from --force ;;
-        summary) echo --from ;;
-        *) echo --from --help --version ;;
+        summary) echo --from --json ;;
+        *) echo --from --help --json --version ;;
     esac
 }
 

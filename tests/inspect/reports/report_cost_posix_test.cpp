@@ -48,8 +48,9 @@ constexpr Writer kMemoryText = {"MemoryText",
 constexpr Writer kProcessorsText = {"ProcessorsText",
                                     [](std::ostream& output) { Inspect::ReportProcessors({}, {}, output); }};
 constexpr Writer kOtherWriters[] = {
-    {"SummaryText", [](std::ostream& output) { Inspect::ReportSummary({}, output); }},
-    {"SummaryOnATerminal", [](std::ostream& output) { Inspect::ReportSummary({.width = 80}, output); }},
+    {"SummaryText", [](std::ostream& output) { Inspect::ReportSummary({}, {}, output); }},
+    {"SummaryOnATerminal", [](std::ostream& output) { Inspect::ReportSummary({}, {.width = 80}, output); }},
+    {"SummaryJson", [](std::ostream& output) { Inspect::ReportSummary({.json = true}, {}, output); }},
     {"MemoryOnATerminal", [](std::ostream& output) { Inspect::ReportMemory({}, {.width = 80}, output); }},
     {"MemoryJson", [](std::ostream& output) { Inspect::ReportMemory({.json = true}, {}, output); }},
     {"ProcessorsJson", [](std::ostream& output) { Inspect::ReportProcessors({.json = true}, {}, output); }},

@@ -9,6 +9,7 @@
 #include "tests/inspect/run_tool.h"
 #include "tests/support/decode.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/json.h"
 
 // The manager is once per process: every test here needs a process of its own.
 namespace SMBIOS::Tests {
@@ -52,8 +53,14 @@ protected:
 
     std::string Text(const Inspect::OutputStyle& style = {}) {
         std::ostringstream output;
-        Inspect::ReportSummary(style, output);
+        Inspect::ReportSummary({}, style, output);
         return output.str();
+    }
+
+    Json Facts() {
+        std::ostringstream output;
+        Inspect::ReportSummary({.json = true}, {}, output);
+        return Json::parse(output.str());
     }
 
     /// What stands beside a label, line by line.
@@ -94,24 +101,51 @@ TEST_F(SummaryTest, SaysWhatIsNotReported) {
               "Table       SMBIOS 2.8.0, 1 structure\n");
 }
 
-TEST_F(SummaryTest, ShowsTheFirmwareOfAStructureThatIsNotDecoded) {
+TEST(Summary, OfTheSampleInJsonIsItsGoldenFile) {
+    const ToolResult result = RunTool({"summary", "--json", "--from", SMBIOS_SAMPLE_TABLE});
+    EXPECT_EQ(result.output, GoldenText("summary.json"));
+}
+
+// Text
+
+TEST_F(SummaryTest, ShowsTheFirmwareWhateverItsLength) {
     Load({StructureBuilder(0, 0x18)
               .String(0x04, "Maker ")
               .String(0x05, "F8")
               .String(0x08, "08/03/2010")
               .Byte(0x14, 4)
               .Byte(0x15, 12)});
-    EXPECT_EQ(ValuesOf("Firmware"), Values{"Maker F8, release 4.12, 08/03/2010"});
+    EXPECT_EQ(ValuesOf("Firmware"), Values{"Maker F8, release 4.12, 08/03/2010, ROM 64 KiB"});
 }
 
 TEST_F(SummaryTest, ShowsNoReleaseWhereTheFirmwareHasNone) {
     Load({StructureBuilder(0, 0x18).String(0x04, "Maker").Byte(0x14, 0xFF).Byte(0x15, 0xFF)});
-    EXPECT_EQ(ValuesOf("Firmware"), Values{"Maker"});
+    EXPECT_EQ(ValuesOf("Firmware"), Values{"Maker, ROM 64 KiB"});
 }
 
 TEST_F(SummaryTest, ShowsNoReleaseOfAStructureThatEndsBeforeIt) {
     Load({StructureBuilder(0, 0x12).String(0x04, "Maker")});
+    EXPECT_EQ(ValuesOf("Firmware"), Values{"Maker, ROM 64 KiB"});
+}
+
+TEST_F(SummaryTest, ShowsTheSizeOfALargeRom) {
+    Load({StructureBuilder(0, 0x1A).Byte(0x09, 0xFF).Word(0x14, 0xFFFF).Word(0x18, 0x4001)});
+    EXPECT_EQ(ValuesOf("Firmware"), Values{"ROM 1 GiB"});
+}
+
+TEST_F(SummaryTest, ShowsNoSizeOfARomThatTheFirmwareDoesNotKnow) {
+    Load({StructureBuilder(0, 0x1A).String(0x04, "Maker").Byte(0x09, 0xFF).Word(0x14, 0xFFFF)});
     EXPECT_EQ(ValuesOf("Firmware"), Values{"Maker"});
+}
+
+TEST_F(SummaryTest, ShowsAUuidOfAnyBytes) {
+    Load({StructureBuilder(1, 0x1B).Bytes(0x08, {4, 3, 2, 1, 6, 5, 8, 7, 9, 10, 11, 12, 13, 14, 15, 16})});
+    EXPECT_EQ(ValuesOf("System"), Values{"UUID 01020304-0506-0708-090a-0b0c0d0e0f10"});
+}
+
+TEST_F(SummaryTest, ShowsNoTypeOfAChassisThatTheFirmwareDoesNotKnow) {
+    Load({StructureBuilder(3, 0x15).String(0x04, "Maker").Byte(0x05, 2)});
+    EXPECT_EQ(ValuesOf("Chassis"), Values{"Maker"});
 }
 
 TEST_F(SummaryTest, SaysWhenNothingIsKnownOfAThing) {
@@ -146,13 +180,23 @@ TEST_F(SummaryTest, ShowsEmptySocketsAndUnusualStates) {
         {Processor(0x0010, 0x41), Processor(0x0011, 0x42), Processor(0x0012, 0x00), Processor(0x0013, 0x00)});
     EXPECT_EQ(ValuesOf("Processors"),
               (Values{"Fast CPU, 1 core, 2 threads",
-                      "Fast CPU, 1 core, 2 threads, CPU Disabled by User through Firmware Setup",
+                      "Fast CPU, 1 core, 2 threads, Disabled By User",
                       "2 x empty socket"}));
 }
 
 TEST_F(SummaryTest, CallsAProcessorWithoutANameByItsFamily) {
     Load({StructureBuilder(4, 0x20).Byte(0x06, 0xB3).Byte(0x18, 0x41)});
-    EXPECT_EQ(ValuesOf("Processors").front().substr(0, 26), "Intel(R) Xeon(R) processor");
+    EXPECT_EQ(ValuesOf("Processors"), Values{"Xeon"});
+}
+
+TEST_F(SummaryTest, ShowsAProcessorOfWhichNothingIsKnown) {
+    Load({StructureBuilder(4, 0x1A).Byte(0x06, 0x02).Byte(0x18, 0x41)});
+    EXPECT_EQ(ValuesOf("Processors"), Values{"processor without a name"});
+}
+
+TEST_F(SummaryTest, ShowsProcessorsOfOneId) {
+    Load({Processor(0x0010, 0x41).Qword(0x08, 7), Processor(0x0011, 0x41).Qword(0x08, 7)});
+    EXPECT_EQ(ValuesOf("Processors"), Values{"2 x Fast CPU, 1 core, 2 threads"});
 }
 
 TEST_F(SummaryTest, CountsSlotsAndAddsSizesUp) {
@@ -192,9 +236,9 @@ TEST_F(SummaryTest, CountsOnlySystemMemory) {
     EXPECT_EQ(ValuesOf("Memory").front(), "4 GiB in 1 of 1 slot");
 }
 
-TEST_F(SummaryTest, CountsDevicesThatCannotBeDecoded) {
-    Load({Device(4096), StructureBuilder(17, 0x10), Device(0)});
-    EXPECT_EQ(ValuesOf("Memory").front(), "4 GiB in 1 of 3 slots, 1 free, 1 cannot be decoded");
+TEST_F(SummaryTest, CountsSlotsOfWhichTheFirmwareDoesNotKnowTheSize) {
+    Load({Device(4096), Device(0xFFFF), StructureBuilder(17, 0x0C), Device(0)});
+    EXPECT_EQ(ValuesOf("Memory").front(), "4 GiB in 1 of 4 slots, 1 free, 2 of unknown size");
 }
 
 TEST_F(SummaryTest, NamesTheTypesOfStructuresWithErrors) {
@@ -260,6 +304,63 @@ TEST_F(SummaryTest, SetsOffLabelsAndErrors) {
     const std::string text = Text({.colour = true});
     EXPECT_NE(text.find("\x1B[1mMemory\x1B[0m      nothing in 1 slot"), std::string::npos) << text;
     EXPECT_NE(text.find("\x1B[33m1 structure with errors: type 17\x1B[0m\n"), std::string::npos) << text;
+}
+
+// JSON
+
+TEST_F(SummaryTest, JsonHasWhatTheFirmwareGives) {
+    Load({StructureBuilder(0, 0x12).String(0x04, "Maker ").Byte(0x09, 1)});
+    EXPECT_EQ(Facts().at("firmware"), Json::parse(R"([{"vendor": "Maker ", "version": null, "release": null,
+                               "releaseDate": null, "romSize": 131072}])"));
+}
+
+TEST_F(SummaryTest, JsonHasEverySocket) {
+    Load({Processor(0x0010, 0x42).String(0x04, "A"), Cache(0x0100, 256), Processor(0x0011, 0x00)});
+    const Json processors = Facts().at("processors");
+    EXPECT_EQ(processors.at(0), Json::parse(R"({"socket": "A", "isPopulated": true, "name": "Fast CPU",
+                              "status": "Disabled By User", "cores": 1, "coresEnabled": 1, "threads": 2,
+                              "l1Cache": 262144, "l2Cache": null, "l3Cache": null})"));
+    EXPECT_EQ(processors.at(1).at("isPopulated"), false);
+}
+
+TEST_F(SummaryTest, JsonHasEveryModuleAndCountsTheSlots) {
+    Load({Device(4096).String(0x10, "A1"), Device(0), Device(0xFFFF)});
+    EXPECT_EQ(Facts().at("memory"),
+              Json::parse(R"({"slots": 3, "freeSlots": 1, "unknownSlots": 1, "size": 4294967296,
+                              "maximum": null,
+                              "modules": [{"locator": "A1", "size": 4294967296, "type": "DDR4",
+                                           "formFactor": "DIMM", "speed": 2666}]})"));
+}
+
+TEST_F(SummaryTest, JsonSaysHowMuchOfTheTableTheLibraryDecodes) {
+    firmware_.Supply(TableBuilder(2, 8, 1)
+                         .Add(StructureBuilder(0, 0x18))
+                         .Add(StructureBuilder(16, 0x0E))
+                         .Add(StructureBuilder(17, 0x10))
+                         .Add(StructureBuilder(17, 0x10))
+                         .RawTable());
+    const Json facts = Facts();
+    EXPECT_EQ(facts.at("version"), "2.8.1");
+    EXPECT_EQ(facts.at("table"), Json::parse(R"({"structures": 4, "undecoded": {"count": 1, "types": [0]},
+                              "malformed": {"count": 3, "types": [16, 17]}, "mayBeCutShort": true})"));
+}
+
+TEST_F(SummaryTest, EveryMemberOfTheJsonIsDocumented) {
+    Load({StructureBuilder(0, 0x12), StructureBuilder(1, 0x08), StructureBuilder(4, 0x1A), Device(1)});
+    const std::string document = ContentsOf(SMBIOS_SOURCE_DIR "/docs/json.md");
+    const auto expectDocumented = [&](const Json& object) {
+        for (const auto& [name, value] : object.items()) {
+            EXPECT_NE(document.find("| `" + name + "` |"), std::string::npos) << name;
+        }
+    };
+    const Json facts = Facts();
+    expectDocumented(facts);
+    for (const char* const list : {"firmware", "systems", "processors"}) {
+        expectDocumented(facts.at(list).at(0));
+    }
+    expectDocumented(facts.at("memory"));
+    expectDocumented(facts.at("memory").at("modules").at(0));
+    expectDocumented(facts.at("table"));
 }
 
 TEST_F(SummaryTest, AsksNothingOfTheOperatingSystem) {

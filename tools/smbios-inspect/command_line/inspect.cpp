@@ -24,7 +24,7 @@ namespace {
 void Report(const Options& options, const OutputStyle& style, std::ostream& output) {
     switch (options.command) {
         case Command::summary:
-            ReportSummary(style, output);
+            ReportSummary(options.report, style, output);
             break;
         case Command::memory:
             ReportMemory(options.report, style, output);

@@ -19,7 +19,7 @@ struct CommandSyntax {
 };
 
 constexpr CommandSyntax kCommands[] = {
-    {.name = "summary", .command = Command::summary},
+    {.name = "summary", .command = Command::summary, .takesJson = true},
     {.name = "memory", .command = Command::memory, .takesJson = true},
     {.name = "processors", .command = Command::processors, .takesJson = true},
     {.name = "structures", .command = Command::structures, .takesJson = true, .takesTypes = true},
@@ -180,7 +180,7 @@ Options ParseOptions(std::span<const std::string_view> arguments) {
 }
 
 std::string_view UsageText() noexcept {
-    return "usage: smbios-inspect [summary] [--from FILE]\n"
+    return "usage: smbios-inspect [summary] [--from FILE] [--json]\n"
            "       smbios-inspect memory [--from FILE] [--json]\n"
            "       smbios-inspect processors [--from FILE] [--json]\n"
            "       smbios-inspect structures [--type N]... [--from FILE] [--json]\n"

@@ -23,15 +23,10 @@ bool IsAskedFor(const Structure& structure, const Request& request) {
            (!request.quiet || Standard::HasValues(structure));
 }
 
-std::string VersionText(Standard::TableVersion version) {
-    return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
-           std::to_string(version.revision);
-}
-
 void PrintAsJson(TableWalk walk, const Request& request, std::ostream& output) {
     JsonWriter json(output);
     json.BeginObject();
-    json.Member("version", VersionText(walk.Version()));
+    json.Member("version", Standard::VersionText(walk.Version()));
     json.Name("structures");
     json.BeginArray();
     while (const auto structure = walk.Next()) {

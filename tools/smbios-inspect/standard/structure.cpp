@@ -21,6 +21,11 @@ bool IsPadding(std::span<const std::uint8_t> bytes) noexcept {
 
 }  // namespace
 
+std::string VersionText(TableVersion version) {
+    return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
+           std::to_string(version.revision);
+}
+
 TableWalk::TableWalk(std::span<const std::uint8_t> rawTable) noexcept {
     if (rawTable.size() >= Platform::RawTableHeader::kSize) {
         const auto header = Platform::RawTableHeader::Of(rawTable);

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -20,6 +21,9 @@ struct TableVersion {
         return major != otherMajor ? major > otherMajor : minor >= otherMinor;
     }
 };
+
+/// "3.2.0".
+[[nodiscard]] std::string VersionText(TableVersion version);
 
 /// One structure where it stands in its table. A view: valid only while the table is.
 struct Structure {
