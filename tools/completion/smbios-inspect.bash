@@ -1,4 +1,8 @@
-# Completes the command line of smbios-inspect in bash: commands, the options each takes, files, type numbers.
+# Completes the command line of smbios-inspect in bash: commands, the options each takes, files, types.
+
+_smbios_inspect_types="
+    bios system baseboard chassis processor memory cache connector slot oem group error address pointing battery
+    security power probe cooling remote management channel additional tpm inventory"
 
 _smbios_inspect_files() {
     mapfile -t COMPREPLY < <(compgen -f -- "$1")
@@ -10,7 +14,7 @@ _smbios_inspect_value() {
     local option=$1 word=$2
     case $option in
         --from) _smbios_inspect_files "$word" ;;
-        --type) mapfile -t COMPREPLY < <(compgen -W "$(echo {0..48})" -- "$word") ;;
+        --type) mapfile -t COMPREPLY < <(compgen -W "$_smbios_inspect_types $(echo {0..48})" -- "$word") ;;
         --handle) COMPREPLY=() ;;
         *) return 1 ;;
     esac

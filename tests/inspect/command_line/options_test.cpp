@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,16 @@ TEST(Options, TakeTypesInBothSpellingsAndSeveralTimes) {
     EXPECT_EQ(options.report.types, (std::set<std::uint8_t>{0, 17, 255}));
 }
 
+TEST(Options, TakeTypesByTheirWords) {
+    EXPECT_EQ(ParseOptions(Words{"structures", "--type=memory"}).report.types,
+              (std::set<std::uint8_t>{5, 6, 16, 17}));
+}
+
+TEST(Options, TakeListsOfTypes) {
+    EXPECT_EQ(ParseOptions(Words{"firmware", "--type", "bios,17,0x7F"}).report.types,
+              (std::set<std::uint8_t>{0, 13, 17, 127}));
+}
+
 TEST(Options, TakeJsonWhereThereIsSome) {
     EXPECT_TRUE(ParseOptions(Words{"--json"}).report.json);
     for (const std::string_view command : {"summary", "memory", "processors", "structures"}) {
@@ -130,10 +141,18 @@ TEST(Options, AnOptionWithoutItsValueIsAnError) {
     EXPECT_EQ(ErrorOf({"structures", "--type"}), "option --type needs a value");
 }
 
-TEST(Options, ATypeThatIsNoByteIsAnError) {
-    for (const std::string type : {"256", "-1", "0x11", "17 ", "x", "1,2"}) {
-        EXPECT_EQ(ErrorOf({"structures", "--type", type}),
-                  "'" + type + "' is no structure type: a number from 0 to 255");
+TEST(Options, ATypeThatIsNoByteAndNoWordIsAnError) {
+    for (const std::string type : {"256", "-1", "0x100", "0x", "17 ", "x", "Memory"}) {
+        const std::string error = ErrorOf({"structures", "--type", type});
+        EXPECT_TRUE(error.starts_with("'" + type +
+                                      "' is no structure type: a number from 0 to 255, or one of bios, "))
+            << error;
+    }
+}
+
+TEST(Options, AListOfTypesWithAnErrorIsOne) {
+    for (const std::string list : {",", "17,", ",17", "16,,17", "16,x"}) {
+        EXPECT_NE(ErrorOf({"structures", "--type", list}), "none") << list;
     }
 }
 

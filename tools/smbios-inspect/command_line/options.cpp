@@ -1,7 +1,12 @@
 #include "smbios-inspect/command_line/options.h"
 
+#include <algorithm>
 #include <charconv>
+#include <optional>
+#include <set>
 #include <vector>
+
+#include "smbios-inspect/command_line/type_names.h"
 
 namespace SMBIOS::Inspect {
 
@@ -41,26 +46,56 @@ const CommandSyntax& SyntaxOf(std::string_view name) {
     throw UsageError("unknown command '" + std::string(name) + "'");
 }
 
-std::uint8_t TypeNumberOf(std::string_view text) {
-    std::uint8_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size()) {
-        throw UsageError("'" + std::string(text) + "' is no structure type: a number from 0 to 255");
-    }
-    return number;
-}
-
-/// Decimal, or hexadecimal behind 0x.
-std::uint16_t HandleOf(std::string_view text) {
+/// Decimal, or hexadecimal behind 0x; no value for anything else.
+template <class Number>
+std::optional<Number> NumberOf(std::string_view text) {
     const bool isHexadecimal = text.starts_with("0x") || text.starts_with("0X");
     const std::string_view digits = text.substr(isHexadecimal ? 2 : 0);
-    std::uint16_t handle = 0;
+    Number number = 0;
     const auto [end, error] =
-        std::from_chars(digits.data(), digits.data() + digits.size(), handle, isHexadecimal ? 16 : 10);
-    if (error != std::errc() || end != digits.data() + digits.size()) {
-        throw UsageError("'" + std::string(text) + "' is no handle: a number from 0 to 0xFFFF");
+        std::from_chars(digits.data(), digits.data() + digits.size(), number, isHexadecimal ? 16 : 10);
+    const bool isNumber = error == std::errc() && end == digits.data() + digits.size();
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+std::uint16_t HandleOf(std::string_view text) {
+    if (const auto handle = NumberOf<std::uint16_t>(text)) {
+        return *handle;
     }
-    return handle;
+    throw UsageError("'" + std::string(text) + "' is no handle: a number from 0 to 0xFFFF");
+}
+
+/// "first, second".
+template <class List>
+std::string NamesOf(const List& list) {
+    std::string names;
+    for (const auto& each : list) {
+        names.append(names.empty() ? "" : ", ").append(each.name);
+    }
+    return names;
+}
+
+/// Adds the types that a number or a word stands for.
+void AddType(std::string_view text, std::set<std::uint8_t>& types) {
+    if (const auto number = NumberOf<std::uint8_t>(text)) {
+        types.insert(*number);
+        return;
+    }
+    const auto name = std::ranges::find(TypeNames(), text, &TypeName::name);
+    if (name == TypeNames().end()) {
+        throw UsageError("'" + std::string(text) +
+                         "' is no structure type: a number from 0 to 255, or one of " + NamesOf(TypeNames()));
+    }
+    types.insert(name->types.begin(), name->types.end());
+}
+
+/// Adds those of a list with commas.
+void AddTypes(std::string_view list, std::set<std::uint8_t>& types) {
+    std::size_t begin = 0;
+    for (std::size_t end = 0; end != std::string_view::npos; begin = end + 1) {
+        end = list.find(',', begin);
+        AddType(list.substr(begin, end - begin), types);
+    }
 }
 
 /// Goes through the arguments one by one.
@@ -121,7 +156,7 @@ bool ReadOption(ArgumentReader& reader, Options& options) {
         RequireFirst(!options.report.from, "--from");
         options.report.from = *file;
     } else if (const auto type = reader.ValueOf("--type")) {
-        options.report.types.insert(TypeNumberOf(*type));
+        AddTypes(*type, options.report.types);
     } else if (const auto handle = reader.ValueOf("--handle")) {
         options.report.handles.insert(HandleOf(*handle));
     } else if (reader.Argument().starts_with("-") && reader.Argument() != "-") {
@@ -183,8 +218,8 @@ std::string_view UsageText() noexcept {
     return "usage: smbios-inspect [summary] [--from FILE] [--json]\n"
            "       smbios-inspect memory [--from FILE] [--json]\n"
            "       smbios-inspect processors [--from FILE] [--json]\n"
-           "       smbios-inspect structures [--type N]... [--from FILE] [--json]\n"
-           "       smbios-inspect firmware [--type N]... [--handle H]... [--from FILE]\n"
+           "       smbios-inspect structures [--type T]... [--from FILE] [--json]\n"
+           "       smbios-inspect firmware [--type T]... [--handle H]... [--from FILE]\n"
            "                               [--json] [--quiet]\n"
            "       smbios-inspect save FILE [--force] [--from FILE]\n"
            "       smbios-inspect --help | --version\n"
@@ -205,7 +240,8 @@ std::string_view UsageText() noexcept {
            "                folder with the files smbios_entry_point and DMI, or - for\n"
            "                standard input\n"
            "  --json        print JSON\n"
-           "  --type N      show only structures of type N; may be given several times\n"
+           "  --type T      show only structures of type T: a number, a word like memory,\n"
+           "                or a list of them with commas; may be given several times\n"
            "  --handle H    show only the structure with this handle; several times, too\n"
            "  --quiet       print values only: no handles, bytes or remarks\n"
            "  --force       overwrite FILE\n"
