@@ -1,8 +1,22 @@
-# Completes the command line of smbios-inspect in bash: commands, the options each takes, files, types.
+# Completes the command line of smbios-inspect in bash: commands, the options each takes, files, types, keys.
 
 _smbios_inspect_types="
     bios system baseboard chassis processor memory cache connector slot oem group error address pointing battery
     security power probe cooling remote management channel additional tpm inventory"
+
+_smbios_inspect_keys="
+    firmware.vendor firmware.version firmware.releaseDate firmware.romSize firmware.platformFirmwareRelease
+    firmware.embeddedControllerFirmwareRelease firmware.currentLanguage system.manufacturer system.productName
+    system.version system.serialNumber system.uuid system.wakeUpType system.skuNumber system.family
+    board.manufacturer board.product board.version board.serialNumber board.assetTag board.locationInChassis
+    board.type chassis.manufacturer chassis.type chassis.lock chassis.version chassis.serialNumber
+    chassis.assetTagNumber chassis.skuNumber chassis.height chassis.numberOfPowerCords chassis.bootUpState
+    chassis.powerSupplyState chassis.thermalState chassis.securityStatus processor.count processor.sockets
+    processor.cores processor.coresEnabled processor.threads processor.manufacturer processor.version
+    processor.family processor.signature processor.maxSpeed processor.currentSpeed processor.upgrade memory.total
+    memory.maximum memory.slots memory.freeSlots memory.modules memory.type memory.speed
+    security.powerOnPasswordStatus security.keyboardPasswordStatus security.administratorPasswordStatus
+    security.frontPanelResetStatus boot.status tpm.vendorId tpm.specVersion tpm.firmwareVersion1 tpm.description"
 
 _smbios_inspect_files() {
     mapfile -t COMPREPLY < <(compgen -f -- "$1")
@@ -25,6 +39,7 @@ _smbios_inspect_options() {
         memory | processors) echo --from --json ;;
         structures) echo --from --json --type ;;
         firmware) echo --from --handle --json --quiet --type ;;
+        get) echo --from ;;
         save) echo --from --force ;;
         summary) echo --from --json ;;
         *) echo --from --help --json --version ;;
@@ -55,7 +70,9 @@ _smbios_inspect() {
     if [[ $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_smbios_inspect_options "$command")" -- "$word")
     elif [[ -z $command ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "summary memory processors structures firmware save" -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W "summary memory processors structures firmware get save" -- "$word")
+    elif [[ $command == get ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$_smbios_inspect_keys" -- "$word")
     elif [[ $command == save ]]; then
         _smbios_inspect_files "$word"
     fi

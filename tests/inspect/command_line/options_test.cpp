@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "smbios-inspect/reports/value_keys.h"
 #include "tests/inspect/run_tool.h"
 
 namespace SMBIOS::Inspect {
@@ -83,6 +84,22 @@ TEST(Options, TakeListsOfTypes) {
               (std::set<std::uint8_t>{0, 13, 17, 127}));
 }
 
+TEST(Options, TakeTheKeysOfGetInTheirOrder) {
+    const Options options = ParseOptions(Words{"get", "system.uuid", "memory.total", "system.uuid"});
+    EXPECT_EQ(options.command, Command::get);
+    EXPECT_EQ(options.report.keys,
+              (std::vector{
+                  FindValueKey("system.uuid"), FindValueKey("memory.total"), FindValueKey("system.uuid")}));
+}
+
+TEST(Options, AnUnknownKeyIsAnErrorThatNamesAllKeys) {
+    const std::string error = ErrorOf({"get", "system.uuid", "system.name"});
+    EXPECT_TRUE(error.starts_with("unknown key 'system.name'; the keys are firmware.vendor, ")) << error;
+    for (const ValueKey& key : ValueKeys()) {
+        EXPECT_NE(error.find(key.name), std::string::npos) << key.name;
+    }
+}
+
 TEST(Options, TakeJsonWhereThereIsSome) {
     EXPECT_TRUE(ParseOptions(Words{"--json"}).report.json);
     for (const std::string_view command : {"summary", "memory", "processors", "structures"}) {
@@ -157,6 +174,7 @@ TEST(Options, AListOfTypesWithAnErrorIsOne) {
 }
 
 TEST(Options, AnOptionOfAnotherCommandIsAnError) {
+    EXPECT_EQ(ErrorOf({"get", "--json"}), "get does not take --json");
     EXPECT_EQ(ErrorOf({"save", "file", "--json"}), "save does not take --json");
     EXPECT_EQ(ErrorOf({"memory", "--type=17"}), "memory does not take --type");
     EXPECT_EQ(ErrorOf({"structures", "--force"}), "structures does not take --force");
@@ -177,6 +195,7 @@ TEST(Options, TheUsageTextNamesEveryCommandAndOption) {
                                         "memory",
                                         "processors",
                                         "structures",
+                                        "get",
                                         "save",
                                         "--from",
                                         "--json",

@@ -11,6 +11,7 @@
 #include "smbios-inspect/command_line/table_input.h"
 #include "smbios-inspect/output/text_layout.h"
 #include "smbios-inspect/reports/firmware_report.h"
+#include "smbios-inspect/reports/get_report.h"
 #include "smbios-inspect/reports/memory_report.h"
 #include "smbios-inspect/reports/processors_report.h"
 #include "smbios-inspect/reports/structures_report.h"
@@ -37,6 +38,9 @@ void Report(const Options& options, const OutputStyle& style, std::ostream& outp
             break;
         case Command::firmware:
             ReportFirmware(options.report, style, output);
+            break;
+        case Command::get:
+            ReportValues(options.report, output);
             break;
         case Command::save:
             SaveTable(options.target, options.force);

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <optional>
 #include <set>
 #include <vector>
 
 #include "smbios-inspect/command_line/type_names.h"
+#include "smbios-inspect/reports/value_keys.h"
 
 namespace SMBIOS::Inspect {
 
@@ -20,6 +22,7 @@ struct CommandSyntax {
     bool takesTypes = false;
     bool takesHandles = false;
     bool takesQuiet = false;
+    bool takesKeys = false;
     bool takesTarget = false;
 };
 
@@ -34,6 +37,7 @@ constexpr CommandSyntax kCommands[] = {
      .takesTypes = true,
      .takesHandles = true,
      .takesQuiet = true},
+    {.name = "get", .command = Command::get, .takesKeys = true},
     {.name = "save", .command = Command::save, .takesTarget = true},
 };
 
@@ -96,6 +100,13 @@ void AddTypes(std::string_view list, std::set<std::uint8_t>& types) {
         end = list.find(',', begin);
         AddType(list.substr(begin, end - begin), types);
     }
+}
+
+const ValueKey* KeyOf(std::string_view name) {
+    if (const ValueKey* const key = FindValueKey(name)) {
+        return key;
+    }
+    throw UsageError("unknown key '" + std::string(name) + "'; the keys are " + NamesOf(ValueKeys()));
 }
 
 /// Goes through the arguments one by one.
@@ -173,7 +184,7 @@ void RequireThat(bool holds, const CommandSyntax& syntax, std::string_view probl
     }
 }
 
-/// What remains when the options are taken: the command, and the file that `save` writes.
+/// What remains when the options are taken: the command, the keys of `get`, the file that `save` writes.
 void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     const CommandSyntax& syntax = words.empty() ? kCommands[0] : SyntaxOf(words[0]);
     options.command = syntax.command;
@@ -182,6 +193,10 @@ void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     RequireThat(syntax.takesHandles || options.report.handles.empty(), syntax, "does not take --handle");
     RequireThat(syntax.takesQuiet || !options.report.quiet, syntax, "does not take --quiet");
     RequireThat(syntax.takesTarget || !options.force, syntax, "does not take --force");
+    if (syntax.takesKeys) {
+        std::transform(words.begin() + 1, words.end(), std::back_inserter(options.report.keys), KeyOf);
+        return;
+    }
     const bool hasTarget = words.size() >= 2 && !words[1].empty();
     RequireThat(!syntax.takesTarget || hasTarget, syntax, "needs the file to write");
     const std::size_t wordsTaken = syntax.takesTarget ? 2 : 1;
@@ -221,6 +236,7 @@ std::string_view UsageText() noexcept {
            "       smbios-inspect structures [--type T]... [--from FILE] [--json]\n"
            "       smbios-inspect firmware [--type T]... [--handle H]... [--from FILE]\n"
            "                               [--json] [--quiet]\n"
+           "       smbios-inspect get [KEY]... [--from FILE]\n"
            "       smbios-inspect save FILE [--force] [--from FILE]\n"
            "       smbios-inspect --help | --version\n"
            "\n"
@@ -232,6 +248,7 @@ std::string_view UsageText() noexcept {
            "  processors    the processors\n"
            "  structures    every structure of the table with all its fields\n"
            "  firmware      every structure of the table as the SMBIOS standard has it\n"
+           "  get           the values of the KEYs, one a line; without a KEY all of them\n"
            "  save          write the raw table to FILE\n"
            "\n"
            "options:\n"

@@ -10,7 +10,17 @@
 
 namespace SMBIOS::Inspect {
 
-enum class Command : std::uint8_t { summary, memory, processors, structures, firmware, save, help, version };
+enum class Command : std::uint8_t {
+    summary,
+    memory,
+    processors,
+    structures,
+    firmware,
+    get,
+    save,
+    help,
+    version
+};
 
 /// What the command line asks for.
 struct Options {
