@@ -38,7 +38,7 @@ _smbios_inspect_options() {
     case $1 in
         memory | processors) echo --from --json ;;
         structures) echo --from --json --type ;;
-        firmware) echo --from --handle --json --quiet --type ;;
+        firmware) echo --bytes --from --handle --json --quiet --type ;;
         get) echo --from ;;
         save) echo --from --force ;;
         summary) echo --from --json ;;

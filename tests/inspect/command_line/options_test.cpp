@@ -100,6 +100,13 @@ TEST(Options, AnUnknownKeyIsAnErrorThatNamesAllKeys) {
     }
 }
 
+TEST(Options, TakeBytesForFirmware) {
+    EXPECT_TRUE(ParseOptions(Words{"firmware", "--bytes"}).report.bytes);
+    EXPECT_EQ(ErrorOf({"structures", "--bytes"}), "structures does not take --bytes");
+    EXPECT_EQ(ErrorOf({"firmware", "--bytes", "--bytes"}), "option --bytes is given twice");
+    EXPECT_EQ(ErrorOf({"firmware", "--bytes", "--quiet"}), "firmware takes --bytes or --quiet, not both");
+}
+
 TEST(Options, TakeJsonWhereThereIsSome) {
     EXPECT_TRUE(ParseOptions(Words{"--json"}).report.json);
     for (const std::string_view command : {"summary", "memory", "processors", "structures"}) {
@@ -200,6 +207,7 @@ TEST(Options, TheUsageTextNamesEveryCommandAndOption) {
                                         "--from",
                                         "--json",
                                         "--type",
+                                        "--bytes",
                                         "--force",
                                         "--help",
                                         "--version"}) {

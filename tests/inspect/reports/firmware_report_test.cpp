@@ -121,6 +121,34 @@ TEST(FirmwareReport, BlocksHaveAnEmptyLineBetweenThem) {
               "\t\t7F 04 01 7F\n");
 }
 
+TEST(FirmwareReport, ShowsBytesAndStringsBelowTheFieldsWhenAsked) {
+    const auto table = TableBuilder(3, 2, 0)
+                           .Add(StructureBuilder(12, 5, 0x000C).Byte(0x04, 1).String("JP1").String("\x1B"))
+                           .Add(StructureBuilder(24, 5, 0x0018))
+                           .RawTable();
+    EXPECT_EQ(FirmwareReport(table, {.bytes = true}),
+              "Type 12: System Configuration Options, handle 0x000C, 5 bytes\n"
+              "\tOption 1: JP1\n"
+              "\tHeader and Data:\n"
+              "\t\t0C 05 0C 00 01\n"
+              "\tStrings:\n"
+              "\t\tJP1\n"
+              "\t\t\xEF\xBF\xBD\n"
+              "\n"
+              "Type 24: Hardware Security, handle 0x0018, 5 bytes\n"
+              "\tPower-On Password Status: Disabled\n"
+              "\tKeyboard Password Status: Disabled\n"
+              "\tAdministrator Password Status: Disabled\n"
+              "\tFront Panel Reset Status: Disabled\n"
+              "\tHeader and Data:\n"
+              "\t\t18 05 18 00 00\n");
+}
+
+TEST(FirmwareReport, ShowsTheBytesOfWhatHasNoFieldsOnce) {
+    EXPECT_EQ(FirmwareReport(SmallTable(), {.handles = {0x0200}, .bytes = true}),
+              FirmwareReport(SmallTable(), {.handles = {0x0200}}));
+}
+
 TEST(FirmwareReport, SaysThatNothingIsSelected) {
     EXPECT_EQ(FirmwareReport(SmallTable(), {.types = {5}}), "The table holds no such structure.\n");
 }

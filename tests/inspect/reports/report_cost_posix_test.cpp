@@ -5,6 +5,7 @@
 #include <streambuf>
 #include <string>
 
+#include "smbios-inspect/reports/firmware_report.h"
 #include "smbios-inspect/reports/get_report.h"
 #include "smbios-inspect/reports/memory_report.h"
 #include "smbios-inspect/reports/processors_report.h"
@@ -53,6 +54,7 @@ constexpr Writer kOtherWriters[] = {
     {"SummaryOnATerminal", [](std::ostream& output) { Inspect::ReportSummary({}, {.width = 80}, output); }},
     {"SummaryJson", [](std::ostream& output) { Inspect::ReportSummary({.json = true}, {}, output); }},
     {"Values", [](std::ostream& output) { Inspect::ReportValues({}, output); }},
+    {"FirmwareWithBytes", [](std::ostream& output) { Inspect::ReportFirmware({.bytes = true}, {}, output); }},
     {"MemoryOnATerminal", [](std::ostream& output) { Inspect::ReportMemory({}, {.width = 80}, output); }},
     {"MemoryJson", [](std::ostream& output) { Inspect::ReportMemory({.json = true}, {}, output); }},
     {"ProcessorsJson", [](std::ostream& output) { Inspect::ReportProcessors({.json = true}, {}, output); }},

@@ -18,10 +18,11 @@ using Samples::TableBuilder;
 
 /// The text of every structure of a raw table.
 inline std::string FirmwareText(const std::vector<std::uint8_t>& rawTable, bool isQuiet = false) {
+    using Inspect::Standard::Detail;
     std::ostringstream output;
     Inspect::Standard::TableWalk walk(rawTable);
     while (const auto structure = walk.Next()) {
-        Inspect::Standard::PrintStructure(*structure, isQuiet, {}, output);
+        Inspect::Standard::PrintStructure(*structure, isQuiet ? Detail::values : Detail::fields, {}, output);
     }
     return output.str();
 }

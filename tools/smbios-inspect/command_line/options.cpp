@@ -22,6 +22,7 @@ struct CommandSyntax {
     bool takesTypes = false;
     bool takesHandles = false;
     bool takesQuiet = false;
+    bool takesBytes = false;
     bool takesKeys = false;
     bool takesTarget = false;
 };
@@ -36,7 +37,8 @@ constexpr CommandSyntax kCommands[] = {
      .takesJson = true,
      .takesTypes = true,
      .takesHandles = true,
-     .takesQuiet = true},
+     .takesQuiet = true,
+     .takesBytes = true},
     {.name = "get", .command = Command::get, .takesKeys = true},
     {.name = "save", .command = Command::save, .takesTarget = true},
 };
@@ -160,6 +162,9 @@ bool ReadOption(ArgumentReader& reader, Options& options) {
     } else if (reader.Argument() == "--quiet") {
         RequireFirst(!options.report.quiet, "--quiet");
         options.report.quiet = true;
+    } else if (reader.Argument() == "--bytes") {
+        RequireFirst(!options.report.bytes, "--bytes");
+        options.report.bytes = true;
     } else if (reader.Argument() == "--force") {
         RequireFirst(!options.force, "--force");
         options.force = true;
@@ -192,6 +197,8 @@ void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     RequireThat(syntax.takesTypes || options.report.types.empty(), syntax, "does not take --type");
     RequireThat(syntax.takesHandles || options.report.handles.empty(), syntax, "does not take --handle");
     RequireThat(syntax.takesQuiet || !options.report.quiet, syntax, "does not take --quiet");
+    RequireThat(syntax.takesBytes || !options.report.bytes, syntax, "does not take --bytes");
+    RequireThat(!options.report.bytes || !options.report.quiet, syntax, "takes --bytes or --quiet, not both");
     RequireThat(syntax.takesTarget || !options.force, syntax, "does not take --force");
     if (syntax.takesKeys) {
         std::transform(words.begin() + 1, words.end(), std::back_inserter(options.report.keys), KeyOf);
@@ -235,7 +242,7 @@ std::string_view UsageText() noexcept {
            "       smbios-inspect processors [--from FILE] [--json]\n"
            "       smbios-inspect structures [--type T]... [--from FILE] [--json]\n"
            "       smbios-inspect firmware [--type T]... [--handle H]... [--from FILE]\n"
-           "                               [--json] [--quiet]\n"
+           "                               [--json] [--quiet | --bytes]\n"
            "       smbios-inspect get [KEY]... [--from FILE]\n"
            "       smbios-inspect save FILE [--force] [--from FILE]\n"
            "       smbios-inspect --help | --version\n"
@@ -261,6 +268,7 @@ std::string_view UsageText() noexcept {
            "                or a list of them with commas; may be given several times\n"
            "  --handle H    show only the structure with this handle; several times, too\n"
            "  --quiet       print values only: no handles, bytes or remarks\n"
+           "  --bytes       print the bytes and strings of every structure, too\n"
            "  --force       overwrite FILE\n"
            "  --help        print this text\n"
            "  --version     print the version\n"

@@ -23,6 +23,13 @@ bool IsAskedFor(const Structure& structure, const Request& request) {
            (!request.quiet || Standard::HasValues(structure));
 }
 
+Standard::Detail DetailOf(const Request& request) noexcept {
+    if (request.quiet) {
+        return Standard::Detail::values;
+    }
+    return request.bytes ? Standard::Detail::bytes : Standard::Detail::fields;
+}
+
 void PrintAsJson(TableWalk walk, const Request& request, std::ostream& output) {
     JsonWriter json(output);
     json.BeginObject();
@@ -44,7 +51,7 @@ void PrintAsText(TableWalk walk, const Request& request, const OutputStyle& styl
     while (const auto structure = walk.Next()) {
         if (IsAskedFor(*structure, request)) {
             output << (isFirst ? "" : "\n");
-            Standard::PrintStructure(*structure, request.quiet, style, output);
+            Standard::PrintStructure(*structure, DetailOf(request), style, output);
             isFirst = false;
         }
     }

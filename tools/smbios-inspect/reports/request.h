@@ -17,6 +17,7 @@ struct Request {
     std::set<std::uint8_t> types = {};       ///< of the structures to show; empty for all
     std::set<std::uint16_t> handles = {};    ///< likewise
     bool quiet = false;                      ///< the values alone
+    bool bytes = false;                      ///< the bytes and strings of every structure, too
     std::vector<const ValueKey*> keys = {};  ///< of the values to print; empty for all
 };
 

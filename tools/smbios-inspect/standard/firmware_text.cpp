@@ -75,9 +75,10 @@ void PrintStrings(const Structure& structure, std::ostream& output) {
 }  // namespace
 
 void PrintStructure(const Structure& structure,
-                    bool isQuiet,
+                    Detail detail,
                     const OutputStyle& style,
                     std::ostream& output) {
+    const bool isQuiet = detail == Detail::values;
     const std::string heading = isQuiet ? std::string(StructureName(structure.Type()))
                                         : StructureHeading(structure.Type(), structure.bytes);
     output << Emphasised(heading, Emphasis::heading, style) << '\n';
@@ -86,7 +87,7 @@ void PrintStructure(const Structure& structure,
     if (isQuiet) {
         return;
     }
-    if (!IsDescribed(structure.Type())) {
+    if (detail == Detail::bytes || !IsDescribed(structure.Type())) {
         PrintBytes(structure.bytes, output);
         PrintStrings(structure, output);
     }

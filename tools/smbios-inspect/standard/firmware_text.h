@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <iosfwd>
 
 #include "smbios-inspect/output/output_style.h"
@@ -7,9 +8,19 @@
 
 namespace SMBIOS::Inspect::Standard {
 
+/// How much people see of a structure.
+enum class Detail : std::uint8_t {
+    values,  ///< what is no value is left out: handles, bytes and remarks
+    fields,  ///< bytes and strings are shown where the standard has no fields
+    bytes,   ///< they are always shown
+};
+
 /// Prints a structure for people: a heading, and below it a line "Label: value" a field with its items below
-/// that. `isQuiet` leaves out what is no value: handles, bytes and remarks.
-void PrintStructure(const Structure& structure, bool isQuiet, const OutputStyle& style, std::ostream& output);
+/// that.
+void PrintStructure(const Structure& structure,
+                    Detail detail,
+                    const OutputStyle& style,
+                    std::ostream& output);
 
 /// Whether a structure has something to say when only values are asked for: not when it is inactive, an
 /// OEM's, or the end of the table.
