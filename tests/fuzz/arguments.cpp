@@ -11,6 +11,7 @@
 
 #include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/output/text_layout.h"
+#include "smbios-inspect/reports/value_keys.h"
 #include "tests/fuzz/require.h"
 #include "tests/support/harmless_text.h"
 
@@ -42,6 +43,8 @@ std::string_view NameOf(Command command) {
             return "structures";
         case Command::firmware:
             return "firmware";
+        case Command::get:
+            return "get";
         case Command::save:
             return "save";
         case Command::help:
@@ -63,12 +66,16 @@ std::vector<std::string> WrittenOut(const Options& options) {
     addIf(options.report.from.has_value(), "--from=" + options.report.from.value_or(""));
     addIf(options.report.json, "--json");
     addIf(options.report.quiet, "--quiet");
+    addIf(options.report.bytes, "--bytes");
     addIf(options.force, "--force");
     for (const unsigned type : options.report.types) {
         arguments.push_back("--type=" + std::to_string(type));
     }
     for (const unsigned handle : options.report.handles) {
         arguments.push_back("--handle=" + std::to_string(handle));
+    }
+    for (const Inspect::ValueKey* const key : options.report.keys) {
+        arguments.emplace_back(key->name);
     }
     return arguments;
 }
@@ -82,12 +89,14 @@ auto MeaningOf(const Options& options) {
                     report.json,
                     report.types,
                     report.handles,
-                    report.quiet);
+                    report.quiet,
+                    report.bytes,
+                    report.keys);
 }
 
 void RequireNothingOfOtherCommands(const Options& options) {
     const bool isOfSave = options.force || !options.target.empty();
-    const bool isOfFirmware = options.report.quiet || !options.report.handles.empty();
+    const bool isOfFirmware = options.report.quiet || options.report.bytes || !options.report.handles.empty();
     Fuzz::Require(!isOfSave || options.command == Command::save, "only save takes a file and --force");
     Fuzz::Require(!isOfFirmware || options.command == Command::firmware, "only firmware takes them");
 }

@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const Fuzz::GivenTable table({data, size});
     const Inspect::Request asJson = {.json = true, .quiet = table.IsQuiet()};
-    const Inspect::Request asText = {.quiet = table.IsQuiet()};
+    const Inspect::Request asText = {.quiet = table.IsQuiet(), .bytes = table.HasBytes()};
     Fuzz::RequireJson([&](std::ostream& output) { Inspect::ReportFirmware(asJson, {}, output); });
     Fuzz::RequireText([&](std::ostream& output) { Inspect::ReportFirmware(asText, table.Style(), output); });
     return 0;

@@ -25,6 +25,7 @@ public:
 
     [[nodiscard]] Inspect::OutputStyle Style() const noexcept { return {.width = table_[kCallingMethod]}; }
     [[nodiscard]] bool IsQuiet() const noexcept { return table_[kLength] % 2 != 0; }
+    [[nodiscard]] bool HasBytes() const noexcept { return table_[kLength] % 4 >= 2; }
 
 private:
     static constexpr std::size_t kCallingMethod = 0;

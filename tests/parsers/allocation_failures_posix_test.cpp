@@ -83,7 +83,7 @@ void ExpectAllValuesAfterAnyFailure(const std::optional<std::string>& answer, Re
             const std::string values =
                 TextOfChild([&] { return ValuesAfterAFailure<Info>(n, failing, report); });
             if (values == kNothingFailed) {
-                EXPECT_GT(n, 100U);
+                EXPECT_GT(n, 50U);
                 break;
             }
             ASSERT_EQ(values, expected) << "allocation " << n;

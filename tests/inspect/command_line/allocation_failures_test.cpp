@@ -10,8 +10,10 @@
 
 #include "smbios-inspect/command_line/inspect.h"
 #include "tests/inspect/run_tool.h"
+#include "tests/support/decode.h"
 #include "tests/support/failing_allocation.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/temporary_folder.h"
 
 // Every command while one allocation fails, or all from one on, and the same command again.
 namespace SMBIOS::Tests {
@@ -44,11 +46,31 @@ struct CommandCase {
     std::size_t width = 0;
 };
 
-/// Runs a command on the sample table again and again, and keeps what it wrote last.
+/// Small: every command goes through it twice for each of its allocations.
+std::vector<std::uint8_t> Machine() {
+    return TableBuilder(3, 2, 0)
+        .Add(StructureBuilder(0, 0x1A, 1).String(0x04, "A vendor of firmware").Byte(0x09, 1))
+        .Add(StructureBuilder(1, 0x1B, 2).String(0x04, "A manufacturer of a system"))
+        .Add(StructureBuilder(3, 0x1B, 3).Byte(0x13, 1).Byte(0x14, 3).Byte(0x15, 0x83))
+        .Add(
+            StructureBuilder(4, 0x30, 4).Qword(0x08, 0xBFEBFBFF00000001U).String(0x07, "Maker").Word(0x1A, 5))
+        .Add(StructureBuilder(7, 0x1B, 5).Word(0x07, 64).Word(0x09, 64))
+        .Add(StructureBuilder(16, 0x17, 6).Word(0x0D, 1))
+        .Add(StructureBuilder(17, 0x28, 7)
+                 .Word(0x0C, 1024)
+                 .String(0x10, "A device locator of some length")
+                 .String(0x18, "A serial number of some length"))
+        .Add(StructureBuilder(200, 4, 8).String("A text that nobody knows"))
+        .Add(StructureBuilder(127, 4, 9))
+        .RawTable();
+}
+
+/// Runs a command again and again, and keeps what it wrote last.
 class RepeatedCommand {
 public:
-    explicit RepeatedCommand(const CommandCase& command) : arguments_(command.arguments) {
-        arguments_.insert(arguments_.end(), {"--from", SMBIOS_SAMPLE_TABLE});
+    explicit RepeatedCommand(const CommandCase& command)
+        : table_(folder_.Write("table", Machine()).string()), arguments_(command.arguments) {
+        arguments_.insert(arguments_.end(), {"--from", table_});
         style_.width = command.width;
     }
 
@@ -71,6 +93,8 @@ public:
     [[nodiscard]] const std::string& Errors() const noexcept { return errors_.Text(); }
 
 private:
+    TemporaryFolder folder_;
+    std::string table_;
     std::vector<std::string_view> arguments_;
     Inspect::OutputStyle style_;
     RoomyBuffer output_;
