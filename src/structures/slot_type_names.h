@@ -4,7 +4,7 @@
 
 namespace SMBIOS::Structures {
 
-/// Texts of the kind of a system slot.
+/// Texts of the kind of a system slot. Departs from the standard: 0x0E, PCI-66, has none.
 inline constexpr auto kSlotTypeNames = Common::ByteTable({
     {0x03, "ISA"},
     {0x04, "MCA"},

@@ -97,7 +97,7 @@ std::optional<std::uint64_t> RomSizeOf(const StructureReader& in) {
         return (lastBlock + 1) * kBlock;
     }
     if (!in.VersionIsAtLeast(v3_1_0)) {
-        return std::nullopt;
+        return std::nullopt;  // departs from the standard: before 3.1.0 they are 16 megabytes
     }
     const std::uint64_t count = in.Word(0x18);  // departs from the standard: unit bits count as size
     const bool inGigabytes = (count & 0x4000U) != 0;

@@ -136,6 +136,7 @@ std::optional<std::uint32_t> SpeedOf(const StructureReader& in) {
     if (speed != 0xFFFF) {
         return speed;
     }
+    // Departs from the standard: bit 31, which is reserved, counts.
     return in.VersionIsAtLeast(v3_3_0) ? std::optional(in.Dword(0x54)) : std::nullopt;
 }
 

@@ -88,7 +88,8 @@ std::optional<std::uint16_t> FamilyOf(const StructureReader& in) {
     return in.VersionIsAtLeast(v2_6_0) ? std::optional(in.Word(0x28)) : std::nullopt;
 }
 
-/// The count at `offset`; the wider one at `wideOffset` when it does not fit a byte.
+/// The count at `offset`; the wider one at `wideOffset` when it does not fit a byte. Departs from the
+/// standard: there is no value where there is no wider one.
 std::optional<std::uint16_t> CountOf(const StructureReader& in, std::size_t offset, std::size_t wideOffset) {
     const std::uint8_t count = in.Byte(offset);
     if (count != 0xFF) {

@@ -86,7 +86,7 @@ std::optional<std::uint64_t> SizeOf(const StructureReader& in, std::size_t offse
         // Departs from the standard: the wide fields came with 3.1.0, and before them 0xFFFF was a size.
         size = KilobytesOf(in.Dword(wideOffset), 0x80000000U);
     }
-    return ValueUnless(0, std::uint64_t{size});
+    return ValueUnless(0, std::uint64_t{size});  // departs from the standard: 0 is no size
 }
 
 }  // namespace

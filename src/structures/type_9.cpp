@@ -95,7 +95,8 @@ PeerGroup PeerGroupAt(const StructureReader& in, std::size_t offset) {
     };
 }
 
-/// The peer groups up to `end`; none when there is no group or the groups do not fit.
+/// The peer groups up to `end`; none when there is no group. Departs from the standard: none when not all of
+/// them fit.
 std::optional<std::vector<PeerGroup>> PeerGroupsUpTo(const StructureReader& in, std::size_t end) {
     if (end == kPeerGroupsOffset || end > in.Size()) {
         return std::nullopt;
@@ -107,8 +108,8 @@ std::optional<std::vector<PeerGroup>> PeerGroupsUpTo(const StructureReader& in, 
     return groups;
 }
 
-/// The fields from `offset` to the end of the formatted area: as many of them as there are bytes for, and
-/// none when there are more bytes than fields.
+/// The fields from `offset` to the end of the formatted area: as many of them as there are bytes for. Departs
+/// from the standard: none when there are more bytes than fields.
 void DecodeTail(const StructureReader& in, std::size_t offset, Type9Struct& record) {
     const std::size_t size = in.Size() > offset ? in.Size() - offset : 0;
     if (size == 0 || size > kLargestTail) {
@@ -169,6 +170,7 @@ void Type_9::DecodeFieldsInOrder(StructureReader& in, Type9Struct& record) {
         record.deviceNumber = DeviceNumberOf(in.Byte(0x10));
         record.functionNumber = FunctionNumberOf(in.Byte(0x10));
         record.dataBusWidth = in.Byte(0x11);  // departs from the standard: the field came with 3.2.0
+        // Departs from the standard: the field is no code but a number of data lines.
         record.dataBusWidthName = kDataBusWidthNames[in.Byte(0x11)];
     }
     if (in.VersionIsAtLeast(v3_2_0)) {
