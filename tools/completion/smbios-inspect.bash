@@ -36,7 +36,7 @@ _smbios_inspect_value() {
 
 _smbios_inspect_options() {
     case $1 in
-        memory | processors) echo --from --json ;;
+        departures | memory | processors) echo --from --json ;;
         structures) echo --from --json --type ;;
         firmware) echo --bytes --from --handle --json --quiet --type ;;
         get) echo --from ;;
@@ -70,7 +70,7 @@ _smbios_inspect() {
     if [[ $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_smbios_inspect_options "$command")" -- "$word")
     elif [[ -z $command ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "summary memory processors structures firmware get save" -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W "summary memory processors structures firmware get departures save" -- "$word")
     elif [[ $command == get ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$_smbios_inspect_keys" -- "$word")
     elif [[ $command == save ]]; then

@@ -149,7 +149,9 @@ INSTANTIATE_TEST_SUITE_P(Tool,
                                          CommandCase{"FirmwareWithBytes",
                                                      {"firmware", "--bytes", "--type=memory"}},
                                          CommandCase{"Get", {"get"}},
-                                         CommandCase{"FirmwareJson", {"firmware", "--json"}}),
+                                         CommandCase{"FirmwareJson", {"firmware", "--json"}},
+                                         CommandCase{"Departures", {"departures"}, 80},
+                                         CommandCase{"DeparturesJson", {"departures", "--json"}}),
                          [](const auto& each) { return std::string(each.param.name); });
 
 }  // namespace

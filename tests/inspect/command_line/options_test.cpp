@@ -39,6 +39,7 @@ TEST(Options, NameEveryCommand) {
     EXPECT_EQ(ParseOptions(Words{"memory"}).command, Command::memory);
     EXPECT_EQ(ParseOptions(Words{"processors"}).command, Command::processors);
     EXPECT_EQ(ParseOptions(Words{"structures"}).command, Command::structures);
+    EXPECT_EQ(ParseOptions(Words{"departures"}).command, Command::departures);
     EXPECT_EQ(ParseOptions(Words{"save", "file"}).command, Command::save);
 }
 
@@ -58,6 +59,7 @@ TEST(Options, TakeTheFileToReadForEveryCommand) {
                                Words{"memory", "--from=x"},
                                Words{"processors", "--from=x"},
                                Words{"structures", "--from=x"},
+                               Words{"departures", "--from=x"},
                                Words{"save", "file", "--from=x"}}) {
         EXPECT_EQ(ParseOptions(words).report.from, "x") << words[0];
     }
@@ -109,7 +111,7 @@ TEST(Options, TakeBytesForFirmware) {
 
 TEST(Options, TakeJsonWhereThereIsSome) {
     EXPECT_TRUE(ParseOptions(Words{"--json"}).report.json);
-    for (const std::string_view command : {"summary", "memory", "processors", "structures"}) {
+    for (const std::string_view command : {"summary", "memory", "processors", "structures", "departures"}) {
         EXPECT_TRUE(ParseOptions(Words{command, "--json"}).report.json) << command;
     }
 }

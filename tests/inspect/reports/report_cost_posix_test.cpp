@@ -5,6 +5,7 @@
 #include <streambuf>
 #include <string>
 
+#include "smbios-inspect/reports/departures_report.h"
 #include "smbios-inspect/reports/firmware_report.h"
 #include "smbios-inspect/reports/get_report.h"
 #include "smbios-inspect/reports/memory_report.h"
@@ -62,6 +63,8 @@ constexpr Writer kOtherWriters[] = {
     {"StructuresOnATerminal",
      [](std::ostream& output) { Inspect::ReportStructures({}, {.width = 80}, output); }},
     {"StructuresJson", [](std::ostream& output) { Inspect::ReportStructures({.json = true}, {}, output); }},
+    {"DeparturesText", [](std::ostream& output) { Inspect::ReportDepartures({}, {}, output); }},
+    {"DeparturesJson", [](std::ostream& output) { Inspect::ReportDepartures({.json = true}, {}, output); }},
 };
 
 struct Cost {

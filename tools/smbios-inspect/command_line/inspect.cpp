@@ -10,6 +10,7 @@
 #include "smbios-inspect/command_line/save.h"
 #include "smbios-inspect/command_line/table_input.h"
 #include "smbios-inspect/output/text_layout.h"
+#include "smbios-inspect/reports/departures_report.h"
 #include "smbios-inspect/reports/firmware_report.h"
 #include "smbios-inspect/reports/get_report.h"
 #include "smbios-inspect/reports/memory_report.h"
@@ -41,6 +42,9 @@ void Report(const Options& options, const OutputStyle& style, std::ostream& outp
             break;
         case Command::get:
             ReportValues(options.report, output);
+            break;
+        case Command::departures:
+            ReportDepartures(options.report, style, output);
             break;
         case Command::save:
             SaveTable(options.target, options.force);

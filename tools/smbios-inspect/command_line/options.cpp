@@ -40,6 +40,7 @@ constexpr CommandSyntax kCommands[] = {
      .takesQuiet = true,
      .takesBytes = true},
     {.name = "get", .command = Command::get, .takesKeys = true},
+    {.name = "departures", .command = Command::departures, .takesJson = true},
     {.name = "save", .command = Command::save, .takesTarget = true},
 };
 
@@ -244,6 +245,7 @@ std::string_view UsageText() noexcept {
            "       smbios-inspect firmware [--type T]... [--handle H]... [--from FILE]\n"
            "                               [--json] [--quiet | --bytes]\n"
            "       smbios-inspect get [KEY]... [--from FILE]\n"
+           "       smbios-inspect departures [--from FILE] [--json]\n"
            "       smbios-inspect save FILE [--force] [--from FILE]\n"
            "       smbios-inspect --help | --version\n"
            "\n"
@@ -256,6 +258,7 @@ std::string_view UsageText() noexcept {
            "  structures    every structure of the table with all its fields\n"
            "  firmware      every structure of the table as the SMBIOS standard has it\n"
            "  get           the values of the KEYs, one a line; without a KEY all of them\n"
+           "  departures    the values that the library gives otherwise than the standard\n"
            "  save          write the raw table to FILE\n"
            "\n"
            "options:\n"

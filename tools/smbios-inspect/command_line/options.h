@@ -17,6 +17,7 @@ enum class Command : std::uint8_t {
     structures,
     firmware,
     get,
+    departures,
     save,
     help,
     version

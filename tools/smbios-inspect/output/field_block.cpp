@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "smbios-inspect/output/text_layout.h"
 
@@ -33,8 +34,10 @@ void PrintFieldBlock(std::string_view heading,
     for (const FieldText& field : fields) {
         const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
         std::string label = std::string(kIndent, ' ') + field.label;
+        std::string_view mark = field.isMarked ? " *" : "";
         for (const std::string& text : field.lines) {
-            const LabelledLines labelled = BesideLabel(Printable(text), start, style.width);
+            const LabelledLines labelled =
+                BesideLabel(Printable(text).append(std::exchange(mark, "")), start, style.width);
             if (labelled.isBelow && !label.empty()) {
                 output << label << '\n';
                 label.clear();

@@ -18,6 +18,7 @@ struct FieldText {
     const char* label;
     Lines lines;
     bool isFailure;
+    bool isMarked = false;  ///< with a star behind its first line
 };
 
 /// Prints a heading and below it the fields: labels in one column, their lines in another, every text made

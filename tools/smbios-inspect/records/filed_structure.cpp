@@ -61,10 +61,20 @@ void WriteStructure(const FiledStructure& structure, JsonWriter& json) {
     json.EndObject();
 }
 
-void PrintStructure(const FiledStructure& structure, const OutputStyle& style, std::ostream& output) {
+std::size_t PrintStructure(const FiledStructure& structure,
+                           const OutputStyle& style,
+                           std::ostream& output,
+                           std::span<const std::string_view> marks) {
     const RecordWriter writer = WriterFor(structure);
     const std::string heading = StructureHeading(TypeOf(structure), writer.rawBytes(*structure.second));
-    PrintFieldBlock(heading, writer.texts(*structure.second), style, output);
+    std::vector<FieldText> texts = writer.texts(*structure.second);
+    std::size_t markCount = 0;
+    for (FieldText& text : texts) {
+        text.isMarked = std::ranges::find(marks, text.label) != marks.end();
+        markCount += text.isMarked ? 1 : 0;
+    }
+    PrintFieldBlock(heading, texts, style, output);
+    return markCount;
 }
 
 }  // namespace SMBIOS::Inspect

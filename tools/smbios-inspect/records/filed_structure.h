@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "manager/decoded_table.h"
 #include "smbios-inspect/output/json_writer.h"
@@ -26,7 +29,11 @@ using FiledStructure = Manager::FiledStructures::value_type;
 /// Key, type and record as an object.
 void WriteStructure(const FiledStructure& structure, JsonWriter& json);
 
-/// A heading and the fields of the record that have a value, one below the other.
-void PrintStructure(const FiledStructure& structure, const OutputStyle& style, std::ostream& output);
+/// A heading and the fields of the record that have a value, one below the other; those with a label among
+/// `marks` are marked. Returns how many are.
+std::size_t PrintStructure(const FiledStructure& structure,
+                           const OutputStyle& style,
+                           std::ostream& output,
+                           std::span<const std::string_view> marks = {});
 
 }  // namespace SMBIOS::Inspect

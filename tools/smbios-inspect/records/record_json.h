@@ -50,7 +50,7 @@ public:
         value ? Write(json, *value) : json.Null();
     }
 
-private:
+    /// A field under a name.
     template <class Value>
     static void WriteMember(JsonWriter& json, const char* name, const Value& value) {
         json.Name(name);

@@ -1,14 +1,25 @@
 #include "smbios-inspect/reports/structures_report.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <ostream>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "manager/decoded_table.h"
 #include "manager/raw_table.h"
+#include "smbios-inspect/departures/find_departures.h"
+#include "smbios-inspect/departures/marks.h"
 #include "smbios-inspect/output/json_writer.h"
+#include "smbios-inspect/output/text_layout.h"
 #include "smbios-inspect/records/filed_structure.h"
+#include "smbios-inspect/reports/from_option.h"
 
 namespace SMBIOS::Inspect {
 
+using Departures::Marks;
 using Manager::DecodedTable;
 
 namespace {
@@ -34,32 +45,67 @@ void PrintAsJson(const DecodedTable& table, const Request& request, std::ostream
     json.EndLine();
 }
 
+/// What the lines of the structures leave to `departures`.
+struct DepartureCount {
+    std::size_t marked = 0;   ///< lines
+    std::size_t missing = 0;  ///< values without a line
+};
+
+void PrintDepartureNote(const DepartureCount& count,
+                        const Request& request,
+                        const OutputStyle& style,
+                        std::ostream& output) {
+    if (count.marked == 0 && count.missing == 0) {
+        return;
+    }
+    std::string note;
+    if (count.marked != 0) {
+        note = "Values with a * are not what the SMBIOS standard makes of them";
+    }
+    if (count.missing != 0) {
+        note += (note.empty() ? "" : "; ") + std::to_string(count.missing) +
+                (count.missing == 1 ? " value" : " values") + " that the SMBIOS standard has " +
+                (count.missing == 1 ? "is" : "are") + " missing here";
+    }
+    output << '\n';
+    PrintSentence(note + ". See both with: smbios-inspect departures" + FromOption(request), style, output);
+}
+
 void PrintAsText(const DecodedTable& table,
+                 const Marks& marks,
                  const Request& request,
                  const OutputStyle& style,
                  std::ostream& output) {
     bool isFirst = true;
+    DepartureCount count;
     for (const FiledStructure& structure : table.structures) {
         if (IsAskedFor(structure, request)) {
+            const std::span<const std::string_view> labels = marks.Of(*structure.second);
             output << (isFirst ? "" : "\n");
-            PrintStructure(structure, style, output);
+            const std::size_t marked = PrintStructure(structure, style, output, labels);
+            count.marked += marked;
+            count.missing += labels.size() - marked;
             isFirst = false;
         }
     }
     if (isFirst) {
         output << "The table holds no " << (request.types.empty() ? "" : "such ") << "structure.\n";
     }
+    PrintDepartureNote(count, request, style, output);
 }
 
 }  // namespace
 
 void ReportStructures(const Request& request, const OutputStyle& style, std::ostream& output) {
-    const DecodedTable table = Manager::DecodeTable(Manager::ReadRawTable());
+    const std::vector<std::uint8_t> rawTable = Manager::ReadRawTable();
+    const DecodedTable table = Manager::DecodeTable(rawTable);
     if (request.json) {
         PrintAsJson(table, request, output);
-    } else {
-        PrintAsText(table, request, style, output);
+        return;
     }
+    Marks marks;
+    Departures::FindDepartures(rawTable, table, marks);
+    PrintAsText(table, marks, request, style, output);
 }
 
 }  // namespace SMBIOS::Inspect

@@ -1,32 +1,12 @@
 #include "smbios-inspect/reports/unlisted_note.h"
 
-#include <algorithm>
 #include <ostream>
-#include <string_view>
 
 #include "common/format.h"
 #include "smbios-inspect/output/text_layout.h"
+#include "smbios-inspect/reports/from_option.h"
 
 namespace SMBIOS::Inspect {
-
-namespace {
-
-bool NeedsNoQuotes(char character) noexcept {
-    constexpr std::string_view kPlain = "/\\.:-_+";
-    return ('0' <= character && character <= '9') || ('A' <= character && character <= 'Z') ||
-           ('a' <= character && character <= 'z') || kPlain.find(character) != std::string_view::npos;
-}
-
-/// The option that reads the same table again.
-std::string FromOption(const Request& request) {
-    if (!request.from) {
-        return {};
-    }
-    const bool isPlain = std::ranges::all_of(*request.from, NeedsNoQuotes);
-    return " --from " + (isPlain ? *request.from : "\"" + *request.from + "\"");
-}
-
-}  // namespace
 
 void PrintUnlistedNote(const UnlistedStructures& unlisted,
                        const Request& request,

@@ -1,0 +1,74 @@
+#include "smbios-inspect/departures/departures_text.h"
+
+#include <ostream>
+
+#include "smbios-inspect/departures/library_fields.h"
+#include "smbios-inspect/output/text_layout.h"
+#include "smbios-inspect/records/structure_heading.h"
+
+namespace SMBIOS::Inspect::Departures {
+
+namespace {
+
+/// The value and its items in one line.
+std::string FirmwareText(const Standard::Value* value) {
+    if (value == nullptr) {
+        return "none";
+    }
+    std::string text = value->text;
+    if (!value->isInLine) {
+        for (const Standard::Item& item : value->items) {
+            text += (text.empty() ? "" : ", ") + item.text;
+        }
+    }
+    return text.empty() ? "none" : text;
+}
+
+std::string LibraryText(const Departure& departure) {
+    std::string text;
+    if (departure.decoder != nullptr) {
+        for (const std::string& line : LinesOfField(departure.key, *departure.decoder, departure.index)) {
+            text += (text.empty() ? "" : ", ") + line;
+        }
+    }
+    return text.empty() ? "none" : text;
+}
+
+}  // namespace
+
+void TextPrinter::Visit(const Departure& departure) {
+    if (departure.structure.bytes.data() != place_) {
+        PrintBlock();
+        place_ = departure.structure.bytes.data();
+        heading_ = StructureHeading(departure.structure.Type(), departure.structure.bytes);
+    }
+    labels_.emplace_back(departure.label == nullptr ? departure.field : std::string_view(departure.label));
+    values_.push_back({"Firmware: " + FirmwareText(departure.standard),
+                       "Library: " + LibraryText(departure),
+                       "Reason: " + ReasonText(departure.reason)});
+}
+
+void TextPrinter::Finish() {
+    PrintBlock();
+    if (isFirst_) {
+        PrintSentence(
+            "The library gives every value of this table as the SMBIOS standard does.", style_, output_);
+    }
+}
+
+void TextPrinter::PrintBlock() {
+    if (values_.empty()) {
+        return;
+    }
+    std::vector<FieldText> fields;
+    for (std::size_t i = 0; i < values_.size(); ++i) {
+        fields.push_back({.label = labels_[i].c_str(), .lines = std::move(values_[i]), .isFailure = false});
+    }
+    output_ << (isFirst_ ? "" : "\n");
+    PrintFieldBlock(heading_, fields, style_, output_);
+    isFirst_ = false;
+    labels_.clear();
+    values_.clear();
+}
+
+}  // namespace SMBIOS::Inspect::Departures

@@ -1,0 +1,195 @@
+#include "smbios-inspect/departures/library_fields.h"
+
+#include <algorithm>
+#include <array>
+#include <concepts>
+#include <optional>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+
+#include "common/dynamic_bitset.h"
+#include "smbios-inspect/records/record_fields.h"
+#include "smbios-inspect/records/record_fields_board.h"
+#include "smbios-inspect/records/record_fields_memory.h"
+#include "smbios-inspect/records/record_fields_power.h"
+#include "smbios-inspect/records/record_fields_processor.h"
+#include "smbios-inspect/records/record_fields_system.h"
+#include "smbios-inspect/records/record_json.h"
+#include "smbios-inspect/records/record_text.h"
+#include "structures/decoded_types.h"
+
+namespace SMBIOS::Inspect::Departures {
+
+using Manager::Types::StructureTypes;
+using Structures::BaseStructure;
+
+namespace {
+
+template <std::integral Number>
+LibraryValue ValueOf(Number number) {
+    return std::uint64_t{number};
+}
+
+LibraryValue ValueOf(float number) {
+    return double{number};
+}
+
+LibraryValue ValueOf(std::string_view text) {
+    return text.empty() ? LibraryValue() : text;
+}
+
+LibraryValue ValueOf(const Common::Dynamic_BitSet& flags) {
+    std::uint64_t bits = 0;
+    for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
+        bits |= std::uint64_t{flags.Test(bit)} << bit;
+    }
+    return bits;
+}
+
+template <class Part>
+requires(!std::convertible_to<const Part&, std::string_view> && !std::is_arithmetic_v<Part>) LibraryValue
+    ValueOf(const Part&) {
+    return Composite();
+}
+
+template <class Value>
+LibraryValue ValueOf(const std::optional<Value>& value) {
+    return value ? ValueOf(*value) : LibraryValue();
+}
+
+template <class Value>
+inline constexpr bool kIsText =
+    std::is_same_v<Value, std::string> || std::is_same_v<Value, std::optional<std::string>>;
+
+/// Whether the field `each` shows the text `text` to people, beside its own code.
+template <class Each, class Text>
+bool Shows(const Each& each, const Text& text) {
+    if constexpr (requires { each.form.text == text.value; }) {
+        return each.form.text == text.value;
+    } else {
+        return false;
+    }
+}
+
+template <class Fields, class Text>
+const char* LabelOf(const Fields& fields, const Text& text) {
+    const char* label = text.label;
+    ForEachField(fields, [&](const auto& each) {
+        if (label == kShownElsewhere && Shows(each, text)) {
+            label = each.label;
+        }
+    });
+    return label;
+}
+
+/// What there is to ask of the record of one decoder.
+template <class Decoder>
+struct RecordReader {
+    using Record = std::remove_cvref_t<decltype(*std::declval<const Decoder&>().GetRecord())>;
+    static constexpr auto kFields = AllFieldsOf<Record>();
+
+    static const Record& RecordOf(const BaseStructure& decoder) {
+        return *dynamic_cast<const Decoder&>(decoder).GetRecord();
+    }
+
+    static RecordFrame Frame(const BaseStructure& decoder) {
+        const Record& record = RecordOf(decoder);
+        return {record.handle, record.rawBytes, record.strings, record.error};
+    }
+
+    static std::vector<LibraryField> Fields(const BaseStructure& decoder) {
+        const Record& record = RecordOf(decoder);
+        std::vector<LibraryField> fields;
+        fields.reserve(std::tuple_size_v<decltype(kFields)>);
+        ForEachField(kFields, [&](const auto& field) {
+            const auto& value = record.*field.value;
+            constexpr bool kIsTextField = kIsText<std::remove_cvref_t<decltype(value)>>;
+            fields.push_back({field.name, LabelOf(kFields, field), kIsTextField, ValueOf(value)});
+        });
+        return fields;
+    }
+
+    /// As in the line where people find it, or by itself when there is none.
+    static Lines LinesAt(const BaseStructure& decoder, std::size_t index) {
+        const Record& record = RecordOf(decoder);
+        const std::string_view label = LabelAt(index);
+        Lines lines;
+        ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
+            const bool isItsLine = field.label != kShownElsewhere && field.label == label;
+            if (isItsLine || (i == index && label.empty())) {
+                lines = isItsLine ? ShownLines(field, record) : RecordText::LinesOf(record.*field.value);
+            }
+            ++i;
+        });
+        return lines;
+    }
+
+    static std::string_view LabelAt(std::size_t index) {
+        std::string_view found;
+        ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
+            const char* const label = i++ == index ? LabelOf(kFields, field) : kShownElsewhere;
+            found = label == kShownElsewhere ? found : std::string_view(label);
+        });
+        return found;
+    }
+
+    template <class Field>
+    static Lines ShownLines(const Field& field, const Record& record) {
+        std::vector<FieldText> texts = RecordText::Of(std::tuple(field), record);
+        return texts.empty() ? RecordText::LinesOf(record.*field.value) : std::move(texts.front().lines);
+    }
+
+    static void WriteAt(const BaseStructure& decoder, std::size_t index, const char* name, JsonWriter& json) {
+        const Record& record = RecordOf(decoder);
+        ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
+            if (i++ == index) {
+                RecordJson::WriteMember(json, name, record.*field.value);
+            }
+        });
+    }
+};
+
+struct Row {
+    StructureTypes key;
+    RecordFrame (*frame)(const BaseStructure& decoder);
+    std::vector<LibraryField> (*fields)(const BaseStructure& decoder);
+    Lines (*lines)(const BaseStructure& decoder, std::size_t index);
+    void (*write)(const BaseStructure& decoder, std::size_t index, const char* name, JsonWriter& json);
+};
+
+template <class... Decoders>
+consteval std::array<Row, sizeof...(Decoders)> RowsOf(Structures::TypeList<Decoders...>) {
+    return {{{Decoders::kKey,
+              RecordReader<Decoders>::Frame,
+              RecordReader<Decoders>::Fields,
+              RecordReader<Decoders>::LinesAt,
+              RecordReader<Decoders>::WriteAt}...}};
+}
+
+constexpr auto kRows = RowsOf(Structures::AllDecoders());
+
+const Row& RowOf(StructureTypes key) {
+    return *std::ranges::lower_bound(kRows, key, {}, &Row::key);
+}
+
+}  // namespace
+
+RecordFrame FrameOf(StructureTypes key, const BaseStructure& decoder) {
+    return RowOf(key).frame(decoder);
+}
+
+std::vector<LibraryField> LibraryFieldsOf(StructureTypes key, const BaseStructure& decoder) {
+    return RowOf(key).fields(decoder);
+}
+
+Lines LinesOfField(StructureTypes key, const BaseStructure& decoder, std::size_t index) {
+    return RowOf(key).lines(decoder, index);
+}
+
+void WriteField(
+    StructureTypes key, const BaseStructure& decoder, std::size_t index, const char* name, JsonWriter& json) {
+    RowOf(key).write(decoder, index, name, json);
+}
+
+}  // namespace SMBIOS::Inspect::Departures

@@ -1,0 +1,206 @@
+#include "smbios-inspect/departures/rules.h"
+
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <variant>
+
+#include "smbios-inspect/departures/standard_field.h"
+#include "smbios-inspect/standard/forms.h"
+
+namespace SMBIOS::Inspect::Departures {
+
+using Standard::Value;
+
+namespace {
+
+constexpr std::uint64_t LowBits(unsigned count) noexcept {
+    return count < 64 ? (std::uint64_t{1} << count) - 1 : ~std::uint64_t{0};
+}
+
+bool IsMeaningless(std::string_view words) {
+    return words == Standard::kUnknown || words == Standard::kOutOfSpec || words == "Reserved";
+}
+
+/// What one unit of the standard's number is in the unit of the library's: 0.1 for "0.1 mV".
+double FactorOf(std::string_view unit) {
+    double factor = 1;
+    std::from_chars(unit.data(), unit.data() + unit.size(), factor);
+    return factor;
+}
+
+bool NumberAgrees(std::uint64_t number, const Value& value, const Comparison& comparison) {
+    if (const auto* plain = std::get_if<std::uint64_t>(&value.plain)) {
+        return number == *plain;
+    }
+    // Handed on as it stands, though it is a marker: callers look it up.
+    const Standard::Reading reading{comparison.structure, *comparison.row, 0};
+    return std::holds_alternative<std::monostate>(value.plain) && number == reading.Raw();
+}
+
+/// The library's fractions are floats.
+bool FractionAgrees(double number, const Value& value, std::string_view unit) {
+    const auto isNear = [&](auto plain) {
+        const double expected = static_cast<double>(plain) * FactorOf(unit);
+        return std::abs(number - expected) <= 1e-6 * std::abs(expected) + 1e-9;
+    };
+    if (const auto* plain = std::get_if<std::uint64_t>(&value.plain)) {
+        return isNear(*plain);
+    }
+    const auto* plain = std::get_if<std::int64_t>(&value.plain);
+    return plain != nullptr && isNear(*plain);
+}
+
+bool TextAgrees(std::string_view text, const Value& value) {
+    if (const auto* plain = std::get_if<std::string>(&value.plain)) {
+        return text == Trimmed(*plain);
+    }
+    const auto* plain = std::get_if<std::uint64_t>(&value.plain);
+    return plain != nullptr && NumberIn(text) == *plain;
+}
+
+bool IsMarker(const Value& value) {
+    return std::holds_alternative<std::monostate>(value.plain);
+}
+
+}  // namespace
+
+std::uint64_t Comparison::Raw() const noexcept {
+    return row == nullptr ? 0 : Area().Qword(row->offset) & LowBits(static_cast<unsigned>(8 * row->width));
+}
+
+std::uint64_t Comparison::RawBits() const noexcept {
+    return Raw() >> lowBit & LowBits(bitCount);
+}
+
+std::optional<Value> Comparison::Other(std::string_view name) const {
+    return ReadStandardField(structure, FindStandardField(structure.Type(), name));
+}
+
+bool AgreeByKind(const Comparison& comparison) {
+    if (!comparison.standard) {
+        return !comparison.HasLibraryValue();
+    }
+    const Value& value = *comparison.standard;
+    if (const auto* number = std::get_if<std::uint64_t>(&comparison.library.value)) {
+        return NumberAgrees(*number, value, comparison);
+    }
+    if (const auto* number = std::get_if<double>(&comparison.library.value)) {
+        return FractionAgrees(*number, value, comparison.row->form.unit);
+    }
+    if (const auto* text = std::get_if<std::string_view>(&comparison.library.value)) {
+        return TextAgrees(*text, value);
+    }
+    return !comparison.HasLibraryValue() && HasNothing(value);
+}
+
+bool AgreeStrictly(const Comparison& comparison) {
+    const bool isMarker = comparison.standard && IsMarker(*comparison.standard);
+    return isMarker ? !comparison.HasLibraryValue() : AgreeByKind(comparison);
+}
+
+bool AgreeAsBits(const Comparison& comparison) {
+    const auto* number = std::get_if<std::uint64_t>(&comparison.library.value);
+    if (!comparison.standard || number == nullptr) {
+        return number == nullptr && (!comparison.standard || HasNothing(*comparison.standard));
+    }
+    return *number == comparison.RawBits();
+}
+
+bool AgreeAsWordOfCode(const Comparison& comparison) {
+    const std::string_view word = TextOf(comparison.library.value);
+    return comparison.standard ? WordAgrees(word, comparison.standard->text) : word.empty();
+}
+
+bool AgreeAsOnlyWord(const Comparison& comparison) {
+    const bool isOther = comparison.standard && comparison.standard->text == "Other";
+    return isOther ? comparison.HasLibraryValue() : AgreeAsWordOfCode(comparison);
+}
+
+bool AgreeWordForWord(const Comparison& comparison) {
+    const std::string_view word = TextOf(comparison.library.value);
+    return AgreeAsWordOfCode(comparison) &&
+           (word.empty() || HaveSameLetters(word, comparison.standard->text));
+}
+
+bool AgreeInKilobytes(const Comparison& comparison) {
+    const auto* kilobytes = std::get_if<std::uint64_t>(&comparison.library.value);
+    if (!comparison.standard || kilobytes == nullptr) {
+        return AgreeByKind(comparison);
+    }
+    const auto* bytes = std::get_if<std::uint64_t>(&comparison.standard->plain);
+    return bytes != nullptr && *bytes == *kilobytes * 1024;
+}
+
+bool AgreeAsHexOfBytes(const Comparison& comparison) {
+    const std::string_view text = TextOf(comparison.library.value);
+    if (!comparison.standard) {
+        return text.empty();
+    }
+    return text.empty() ? comparison.Raw() == 0 : NumberIn(text) == comparison.Raw();
+}
+
+bool HasNothing(const Value& value) {
+    if (IsMarker(value)) {
+        return true;
+    }
+    if (const auto* text = std::get_if<std::string>(&value.plain)) {
+        return Trimmed(*text).empty();
+    }
+    const auto* number = std::get_if<std::uint64_t>(&value.plain);
+    const bool isEmptyList = value.isList && value.items.empty() && number != nullptr && *number == 0;
+    return isEmptyList || (value.hasWords && IsMeaningless(value.text));
+}
+
+bool HaveSameLetters(std::string_view one, std::string_view other) noexcept {
+    const auto skip = [](std::string_view& text) {
+        while (!text.empty() && std::isalnum(static_cast<unsigned char>(text.front())) == 0) {
+            text.remove_prefix(1);
+        }
+    };
+    const auto lower = [](char character) { return std::tolower(static_cast<unsigned char>(character)); };
+    for (skip(one), skip(other); !one.empty() && !other.empty(); skip(one), skip(other)) {
+        if (lower(one.front()) != lower(other.front())) {
+            return false;
+        }
+        one.remove_prefix(1);
+        other.remove_prefix(1);
+    }
+    return one.empty() && other.empty();
+}
+
+std::string_view Trimmed(std::string_view text) noexcept {
+    constexpr std::string_view kBlanks = " \t\n\v\f\r";
+    const std::size_t first = text.find_first_not_of(kBlanks);
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::optional<std::uint64_t> NumberIn(std::string_view text) noexcept {
+    const bool isHexadecimal = text.starts_with("0x");
+    text.remove_prefix(isHexadecimal ? 2 : 0);
+    std::uint64_t number = 0;
+    const auto [end, error] =
+        std::from_chars(text.data(), text.data() + text.size(), number, isHexadecimal ? 16 : 10);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+std::optional<std::uint64_t> NumberOf(const LibraryValue& value) noexcept {
+    const auto* number = std::get_if<std::uint64_t>(&value);
+    return number == nullptr ? std::nullopt : std::optional(*number);
+}
+
+std::string_view TextOf(const LibraryValue& value) noexcept {
+    const auto* text = std::get_if<std::string_view>(&value);
+    return text == nullptr ? std::string_view() : *text;
+}
+
+bool WordAgrees(std::string_view libraryWord, std::string_view words) {
+    const bool isMeaningless = IsMeaningless(words);
+    if (libraryWord.empty() || libraryWord == Standard::kUnknown) {
+        return isMeaningless || words == "Other";
+    }
+    return !isMeaningless || words == libraryWord;
+}
+
+}  // namespace SMBIOS::Inspect::Departures
