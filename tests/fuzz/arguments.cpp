@@ -43,6 +43,8 @@ std::string_view NameOf(Command command) {
             return "structures";
         case Command::firmware:
             return "firmware";
+        case Command::departures:
+            return "departures";
         case Command::get:
             return "get";
         case Command::save:
