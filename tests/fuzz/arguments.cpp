@@ -45,6 +45,8 @@ std::string_view NameOf(Command command) {
             return "firmware";
         case Command::departures:
             return "departures";
+        case Command::diff:
+            return "diff";
         case Command::get:
             return "get";
         case Command::save:
@@ -65,6 +67,8 @@ std::vector<std::string> WrittenOut(const Options& options) {
         }
     };
     addIf(options.command == Command::save, options.target);
+    addIf(options.command == Command::diff, options.oldTable);
+    addIf(options.newTable.has_value(), options.newTable.value_or(""));
     addIf(options.report.from.has_value(), "--from=" + options.report.from.value_or(""));
     addIf(options.report.json, "--json");
     addIf(options.report.quiet, "--quiet");
@@ -87,6 +91,8 @@ auto MeaningOf(const Options& options) {
     return std::tie(options.command,
                     options.target,
                     options.force,
+                    options.oldTable,
+                    options.newTable,
                     report.from,
                     report.json,
                     report.types,
@@ -98,9 +104,11 @@ auto MeaningOf(const Options& options) {
 
 void RequireNothingOfOtherCommands(const Options& options) {
     const bool isOfSave = options.force || !options.target.empty();
-    const bool isOfFirmware = options.report.quiet || options.report.bytes || !options.report.handles.empty();
+    const bool isOfFirmware = options.report.bytes || !options.report.handles.empty();
+    const bool isOfDiff = options.newTable || !options.oldTable.empty();
     Fuzz::Require(!isOfSave || options.command == Command::save, "only save takes a file and --force");
     Fuzz::Require(!isOfFirmware || options.command == Command::firmware, "only firmware takes them");
+    Fuzz::Require(!isOfDiff || options.command == Command::diff, "only diff takes two files");
 }
 
 void RequireTheSameAgain(const Options& options) {

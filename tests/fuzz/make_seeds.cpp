@@ -135,6 +135,25 @@ void WriteTablesOfStandard(const fs::path& folder) {
         Table({3, 8}, {{41, 0x0B}, {42, 0x1C}, {43, 0x1F}, {44, 0x20}, {45, 0x1A}, {46, 0x09}, {200, 0x0A}}));
 }
 
+/// A table and the same with other bytes in the middle, behind the byte that says where the second begins.
+Bytes Pair(const Bytes& table) {
+    constexpr std::uint8_t kFourEighths = 4;
+    Bytes pair = {kFourEighths};
+    pair.insert(pair.end(), table.begin(), table.end());
+    pair.insert(pair.end(), table.begin(), table.end());
+    for (std::size_t i = table.size() + table.size() / 2; i < table.size() + table.size() / 2 + 4; ++i) {
+        ++pair[i];
+    }
+    return pair;
+}
+
+void WritePairs(const fs::path& folder) {
+    Write(folder / "memory.bin", Pair(Table({3, 2}, {{16, 0x17}, {17, 0x28}, {17, 0x28}, {20, 0x23}})));
+    Write(folder / "processors.bin", Pair(Table({3, 0}, {{4, 0x2A}, {7, 0x13}, {7, 0x13}})));
+    Write(folder / "groups.bin", Pair(Table({3, 0}, {{2, 0x11}, {14, 0x0B}, {200, 0x0A}})));
+    Write(folder / "slots.bin", Pair(Table({3, 2}, {{9, 0x18}, {8, 0x09}, {41, 0x0B}, {126, 0x08}})));
+}
+
 void WriteSavedTables(const fs::path& folder) {
     const Bytes rawTable = Table({3, 0}, {{1, 0x08}, {2, 0x08}});
     Write(folder / "raw.bin", rawTable);
@@ -153,6 +172,8 @@ int main(int argumentCount, char** arguments) {
         const fs::path folder = arguments[1];
         WriteTables(folder / "table");
         WriteTables(folder / "summary");
+        WriteTables(folder / "departures");
+        WritePairs(folder / "diff");
         WriteTablesOfStandard(folder / "firmware");
         WriteSavedTables(folder / "saved-table");
         return 0;

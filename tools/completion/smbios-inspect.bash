@@ -4,6 +4,8 @@ _smbios_inspect_types="
     bios system baseboard chassis processor memory cache connector slot oem group error address pointing battery
     security power probe cooling remote management channel additional tpm inventory"
 
+_smbios_inspect_commands="summary memory processors structures firmware get departures diff save"
+
 _smbios_inspect_keys="
     firmware.vendor firmware.version firmware.releaseDate firmware.romSize firmware.platformFirmwareRelease
     firmware.embeddedControllerFirmwareRelease firmware.currentLanguage system.manufacturer system.productName
@@ -38,6 +40,7 @@ _smbios_inspect_options() {
     case $1 in
         departures | memory | processors) echo --from --json ;;
         structures) echo --from --json --type ;;
+        diff) echo --json --quiet ;;
         firmware) echo --bytes --from --handle --json --quiet --type ;;
         get) echo --from ;;
         save) echo --from --force ;;
@@ -70,10 +73,10 @@ _smbios_inspect() {
     if [[ $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_smbios_inspect_options "$command")" -- "$word")
     elif [[ -z $command ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "summary memory processors structures firmware get departures save" -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W "$_smbios_inspect_commands" -- "$word")
     elif [[ $command == get ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$_smbios_inspect_keys" -- "$word")
-    elif [[ $command == save ]]; then
+    elif [[ $command == save || $command == diff ]]; then
         _smbios_inspect_files "$word"
     fi
 }

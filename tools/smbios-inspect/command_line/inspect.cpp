@@ -6,6 +6,7 @@
 
 #include "manager/raw_table.h"
 
+#include "smbios-inspect/command_line/diff.h"
 #include "smbios-inspect/command_line/options.h"
 #include "smbios-inspect/command_line/save.h"
 #include "smbios-inspect/command_line/table_input.h"
@@ -23,7 +24,8 @@ namespace SMBIOS::Inspect {
 
 namespace {
 
-void Report(const Options& options, const OutputStyle& style, std::ostream& output) {
+/// Returns the exit status.
+int Report(const Options& options, const OutputStyle& style, std::ostream& output, std::ostream& errors) {
     switch (options.command) {
         case Command::summary:
             ReportSummary(options.report, style, output);
@@ -46,6 +48,8 @@ void Report(const Options& options, const OutputStyle& style, std::ostream& outp
         case Command::departures:
             ReportDepartures(options.report, style, output);
             break;
+        case Command::diff:
+            return CompareTables(options, style, output, errors);
         case Command::save:
             SaveTable(options.target, options.force);
             break;
@@ -56,15 +60,19 @@ void Report(const Options& options, const OutputStyle& style, std::ostream& outp
             output << "smbios-inspect " SMBIOS_INSPECT_VERSION "\n";
             break;
     }
+    return kSuccess;
 }
 
-bool NeedsTable(Command command) noexcept {
-    return command != Command::help && command != Command::version;
+/// Whether it is about the table in use.
+bool NeedsTable(const Options& options) noexcept {
+    return options.command != Command::help && options.command != Command::version &&
+           !(options.command == Command::diff && options.newTable);
 }
 
-/// The summary says it itself.
-void WarnOfLostEnd(Command command, std::ostream& errors) {
-    if (NeedsTable(command) && command != Command::summary && MayBeCutShort(Manager::ReadRawTable())) {
+/// The summary and the comparison say it themselves.
+void WarnOfLostEnd(const Options& options, std::ostream& errors) {
+    const bool saysItItself = options.command == Command::summary || options.command == Command::diff;
+    if (NeedsTable(options) && !saysItItself && MayBeCutShort(Manager::ReadRawTable())) {
         errors << "smbios-inspect: " << kCutShortText << '\n';
     }
 }
@@ -76,11 +84,11 @@ int RunOrTell(std::span<const std::string_view> arguments,
               std::ostream& errors) {
     try {
         const Options options = ParseOptions(arguments);
-        const TableInput table = NeedsTable(options.command) ? TableInput(options.report.from) : TableInput();
-        Report(options, style, output);
+        const TableInput table = NeedsTable(options) ? TableInput(options.report.from) : TableInput();
+        const int status = Report(options, style, output, errors);
         output.flush();  // whoever joins the two streams reads the report first
-        WarnOfLostEnd(options.command, errors);
-        return kSuccess;
+        WarnOfLostEnd(options, errors);
+        return status;
     } catch (const UsageError& error) {
         errors << "smbios-inspect: " << Printable(error.what()) << "\nSee smbios-inspect --help.\n";
         return kWrongUsage;

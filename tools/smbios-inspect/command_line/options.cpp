@@ -25,6 +25,8 @@ struct CommandSyntax {
     bool takesBytes = false;
     bool takesKeys = false;
     bool takesTarget = false;
+    bool takesTables = false;
+    bool takesFrom = true;
 };
 
 constexpr CommandSyntax kCommands[] = {
@@ -41,6 +43,12 @@ constexpr CommandSyntax kCommands[] = {
      .takesBytes = true},
     {.name = "get", .command = Command::get, .takesKeys = true},
     {.name = "departures", .command = Command::departures, .takesJson = true},
+    {.name = "diff",
+     .command = Command::diff,
+     .takesJson = true,
+     .takesQuiet = true,
+     .takesTables = true,
+     .takesFrom = false},
     {.name = "save", .command = Command::save, .takesTarget = true},
 };
 
@@ -160,7 +168,7 @@ bool ReadOption(ArgumentReader& reader, Options& options) {
     if (reader.Argument() == "--json") {
         RequireFirst(!options.report.json, "--json");
         options.report.json = true;
-    } else if (reader.Argument() == "--quiet") {
+    } else if (reader.Argument() == "--quiet" || reader.Argument() == "-q") {
         RequireFirst(!options.report.quiet, "--quiet");
         options.report.quiet = true;
     } else if (reader.Argument() == "--bytes") {
@@ -190,7 +198,18 @@ void RequireThat(bool holds, const CommandSyntax& syntax, std::string_view probl
     }
 }
 
-/// What remains when the options are taken: the command, the keys of `get`, the file that `save` writes.
+/// The tables that `diff` compares.
+void ReadTables(const std::vector<std::string_view>& words, const CommandSyntax& syntax, Options& options) {
+    RequireThat(words.size() >= 2 && !words[1].empty(), syntax, "needs the table to compare with");
+    options.oldTable = words[1];
+    if (words.size() >= 3) {
+        RequireThat(!words[2].empty(), syntax, "needs a name for the other table");
+        RequireThat(words[1] != "-" || words[2] != "-", syntax, "reads standard input once");
+        options.newTable = words[2];
+    }
+}
+
+/// What remains when the options are taken: the command, the keys of `get`, the files of `diff` and `save`.
 void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     const CommandSyntax& syntax = words.empty() ? kCommands[0] : SyntaxOf(words[0]);
     options.command = syntax.command;
@@ -201,19 +220,23 @@ void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     RequireThat(syntax.takesBytes || !options.report.bytes, syntax, "does not take --bytes");
     RequireThat(!options.report.bytes || !options.report.quiet, syntax, "takes --bytes or --quiet, not both");
     RequireThat(syntax.takesTarget || !options.force, syntax, "does not take --force");
+    RequireThat(syntax.takesFrom || !options.report.from, syntax, "does not take --from");
     if (syntax.takesKeys) {
         std::transform(words.begin() + 1, words.end(), std::back_inserter(options.report.keys), KeyOf);
         return;
     }
     const bool hasTarget = words.size() >= 2 && !words[1].empty();
     RequireThat(!syntax.takesTarget || hasTarget, syntax, "needs the file to write");
-    const std::size_t wordsTaken = syntax.takesTarget ? 2 : 1;
+    const std::size_t wordsTaken = syntax.takesTables ? 3 : syntax.takesTarget ? 2 : 1;
     if (words.size() > wordsTaken) {
         throw UsageError("unexpected argument '" + std::string(words[wordsTaken]) + "'");
     }
     if (syntax.takesTarget) {
         RequireThat(words[1] != "-", syntax, "writes a file, not standard output");
         options.target = words[1];
+    }
+    if (syntax.takesTables) {
+        ReadTables(words, syntax, options);
     }
 }
 
@@ -246,6 +269,7 @@ std::string_view UsageText() noexcept {
            "                               [--json] [--quiet | --bytes]\n"
            "       smbios-inspect get [KEY]... [--from FILE]\n"
            "       smbios-inspect departures [--from FILE] [--json]\n"
+           "       smbios-inspect diff OLD [NEW] [--json] [--quiet]\n"
            "       smbios-inspect save FILE [--force] [--from FILE]\n"
            "       smbios-inspect --help | --version\n"
            "\n"
@@ -259,6 +283,8 @@ std::string_view UsageText() noexcept {
            "  firmware      every structure of the table as the SMBIOS standard has it\n"
            "  get           the values of the KEYs, one a line; without a KEY all of them\n"
            "  departures    the values that the library gives otherwise than the standard\n"
+           "  diff          what differs between the saved table OLD and NEW, which is this\n"
+           "                machine's when left out\n"
            "  save          write the raw table to FILE\n"
            "\n"
            "options:\n"
@@ -270,14 +296,15 @@ std::string_view UsageText() noexcept {
            "  --type T      show only structures of type T: a number, a word like memory,\n"
            "                or a list of them with commas; may be given several times\n"
            "  --handle H    show only the structure with this handle; several times, too\n"
-           "  --quiet       print values only: no handles, bytes or remarks\n"
+           "  --quiet, -q   print values only: no handles, bytes or remarks; of diff print\n"
+           "                nothing\n"
            "  --bytes       print the bytes and strings of every structure, too\n"
            "  --force       overwrite FILE\n"
            "  --help        print this text\n"
            "  --version     print the version\n"
            "\n"
            "exit status: 0 on success, 1 when something cannot be read or written,\n"
-           "             2 for wrong usage\n";
+           "             2 for wrong usage, 3 when diff finds a difference\n";
 }
 
 }  // namespace SMBIOS::Inspect

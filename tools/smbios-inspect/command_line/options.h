@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -18,6 +19,7 @@ enum class Command : std::uint8_t {
     firmware,
     get,
     departures,
+    diff,
     save,
     help,
     version
@@ -27,8 +29,10 @@ enum class Command : std::uint8_t {
 struct Options {
     Command command = Command::summary;
     Request report = {};
-    std::string target = {};  ///< the file to save the table to
-    bool force = false;       ///< overwrite that file
+    std::string target = {};                             ///< the file to save the table to
+    bool force = false;                                  ///< overwrite that file
+    std::string oldTable = {};                           ///< the saved table to compare with
+    std::optional<std::string> newTable = std::nullopt;  ///< the one compared; the machine's when left out
 };
 
 /// A command line that asks for nothing the tool can do; what() says why.

@@ -2,13 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
 #include <stdexcept>
-#include <vector>
 
-#include "platform/raw_table_header.h"
-#include "platform/saved_table.h"
-#include "smbios-inspect/command_line/file_path.h"
+#include "smbios-inspect/command_line/table_file.h"
 
 namespace SMBIOS::Inspect {
 
@@ -24,25 +20,6 @@ void RequireMachineTable() {
         case Platform::FirmwareTableAccess::missing:
             throw std::runtime_error("this machine exposes no SMBIOS table");
     }
-}
-
-void RequirePlausibleVersion(const std::vector<std::uint8_t>& table, const std::filesystem::path& name) {
-    const auto header = Platform::RawTableHeader::Of(table);
-    if (!header.HasPlausibleVersion()) {
-        throw Platform::SavedTableError::NotATable(name,
-                                                   "its header gives the version " +
-                                                       std::to_string(header.majorVersion) + "." +
-                                                       std::to_string(header.minorVersion));
-    }
-}
-
-std::vector<std::uint8_t> LoadTable(const std::string& from) {
-    const bool isStandardInput = from == "-";
-    const std::filesystem::path name = isStandardInput ? "standard input" : FilePath(from);
-    std::vector<std::uint8_t> table =
-        isStandardInput ? Platform::LoadSavedTable(stdin, name) : Platform::LoadSavedTable(name);
-    RequirePlausibleVersion(table, name);
-    return table;
 }
 
 }  // namespace
@@ -64,7 +41,7 @@ TableInput::TableInput(const std::optional<std::string>& from) {
         RequireMachineTable();
         return;
     }
-    saved_.emplace(LoadTable(*from));
+    saved_.emplace(ReadTableFile(*from));
     Platform::UseFirmwareTable(&*saved_);
     Platform::UseCommandRunner(&noCommands_);
 }

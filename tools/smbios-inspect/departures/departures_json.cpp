@@ -21,6 +21,8 @@ void WriteFirmware(const Departure& departure, JsonWriter& json) {
                           .kind = row == nullptr ? Standard::ValueKind::text : row->form.kind,
                           .unit = row == nullptr ? std::string_view() : row->form.unit,
                           .place = {},
+                          .offset = row == nullptr ? 0 : row->offset,
+                          .width = row == nullptr ? 0 : row->width,
                           .value = *departure.standard},
                          json);
 }

@@ -24,13 +24,9 @@ std::size_t LabelWidth(const std::vector<FieldText>& fields) {
 
 }  // namespace
 
-void PrintFieldBlock(std::string_view heading,
-                     const std::vector<FieldText>& fields,
-                     const OutputStyle& style,
-                     std::ostream& output) {
+void PrintFields(const std::vector<FieldText>& fields, const OutputStyle& style, std::ostream& output) {
     const std::size_t labelWidth = LabelWidth(fields);
     const std::size_t start = kIndent + labelWidth + kColumnGap;
-    output << Emphasised(heading, Emphasis::heading, style) << '\n';
     for (const FieldText& field : fields) {
         const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
         std::string label = std::string(kIndent, ' ') + field.label;
@@ -49,6 +45,14 @@ void PrintFieldBlock(std::string_view heading,
             }
         }
     }
+}
+
+void PrintFieldBlock(std::string_view heading,
+                     const std::vector<FieldText>& fields,
+                     const OutputStyle& style,
+                     std::ostream& output) {
+    output << Emphasised(heading, Emphasis::heading, style) << '\n';
+    PrintFields(fields, style, output);
 }
 
 }  // namespace SMBIOS::Inspect

@@ -21,8 +21,10 @@ struct FieldText {
     bool isMarked = false;  ///< with a star behind its first line
 };
 
-/// Prints a heading and below it the fields: labels in one column, their lines in another, every text made
-/// safe for a terminal.
+/// Prints fields: labels in one column, their lines in another, every text made safe for a terminal.
+void PrintFields(const std::vector<FieldText>& fields, const OutputStyle& style, std::ostream& output);
+
+/// Prints a heading and below it the fields.
 void PrintFieldBlock(std::string_view heading,
                      const std::vector<FieldText>& fields,
                      const OutputStyle& style,

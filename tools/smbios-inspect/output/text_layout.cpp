@@ -86,9 +86,13 @@ std::string_view EscapeSequenceFor(Emphasis emphasis) noexcept {
     switch (emphasis) {
         case Emphasis::heading:
             return "\x1B[1m";  // bold
+        case Emphasis::added:
+            return "\x1B[32m";  // green
         case Emphasis::warning:
+        case Emphasis::changed:
             return "\x1B[33m";  // yellow
         case Emphasis::failure:
+        case Emphasis::removed:
             return "\x1B[31m";  // red
         case Emphasis::none:
             break;

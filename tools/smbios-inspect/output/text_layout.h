@@ -41,7 +41,7 @@ struct LabelledLines {
 [[nodiscard]] LabelledLines BesideLabel(std::string_view text, std::size_t start, std::size_t width);
 
 /// What colour sets off from the rest.
-enum class Emphasis : std::uint8_t { none, heading, warning, failure };
+enum class Emphasis : std::uint8_t { none, heading, warning, failure, added, removed, changed };
 
 /// `text` in the emphasis's colour, if the style has colours.
 [[nodiscard]] std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style);

@@ -1,7 +1,6 @@
 #include "smbios-inspect/reports/firmware_report.h"
 
 #include <ostream>
-#include <string>
 #include <vector>
 
 #include "manager/raw_table.h"

@@ -23,6 +23,8 @@ struct Field {
     ValueKind kind;
     std::string_view unit;  ///< of a number, for programs; empty for none
     GroupPlace place;
+    std::size_t offset;  ///< where it begins in the structure
+    std::size_t width;   ///< in bytes; 0 for a value that stands elsewhere
     const Value& value;
 };
 
@@ -42,6 +44,9 @@ public:
     FieldVisitor(const FieldVisitor&) = delete;
     FieldVisitor& operator=(const FieldVisitor&) = delete;
     virtual ~FieldVisitor() = default;
+
+    /// Fields of other kinds are neither read nor visited.
+    [[nodiscard]] virtual bool Wants(ValueKind) const noexcept { return true; }
 
     virtual void Visit(const Field& field) = 0;
 };

@@ -241,8 +241,9 @@ std::vector<Item> HandlesAt(const Structure& structure, std::size_t offset, std:
     const Structures::FormattedArea area = structure.Area();
     std::vector<Item> handles;
     for (std::size_t i = 0; i < count && offset + kWord * (i + 1) <= area.Size(); ++i) {
-        const std::uint16_t handle = area.Word(offset + kWord * i);
-        handles.push_back({std::uint64_t{handle}, HexText(handle, 4)});
+        const std::size_t at = offset + kWord * i;
+        const std::uint16_t handle = area.Word(at);
+        handles.push_back({std::uint64_t{handle}, HexText(handle, 4), at});
     }
     return handles;
 }

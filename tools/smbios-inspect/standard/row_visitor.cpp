@@ -12,9 +12,16 @@ GroupPlace PlaceOf(const GroupTable& group, std::size_t index) noexcept {
 
 void RowVisitor::VisitRows(std::span<const FieldRow> rows, std::size_t base, const GroupPlace& place) {
     for (const FieldRow& row : rows) {
-        if (base + row.offset + row.width <= area_.Size()) {
+        if (base + row.offset + row.width <= area_.Size() && visitor_.Wants(row.form.kind)) {
             const Value value = row.form.read({structure_, row, base});
-            visitor_.Visit({row.name, row.label, row.form.kind, row.form.unit, place, value});
+            visitor_.Visit({row.name,
+                            row.label,
+                            row.form.kind,
+                            row.form.unit,
+                            place,
+                            base + row.offset,
+                            row.width,
+                            value});
         }
     }
 }
@@ -25,7 +32,10 @@ void RowVisitor::VisitObject(const GroupTable& group, std::size_t index, std::si
 
 void RowVisitor::VisitValue(const GroupTable& group, std::size_t index, const Value& value) {
     const FieldRow& row = group.rows.front();
-    visitor_.Visit({row.name, row.label, row.form.kind, row.form.unit, PlaceOf(group, index), value});
+    if (visitor_.Wants(row.form.kind)) {
+        visitor_.Visit(
+            {row.name, row.label, row.form.kind, row.form.unit, PlaceOf(group, index), 0, 0, value});
+    }
 }
 
 }  // namespace SMBIOS::Inspect::Standard

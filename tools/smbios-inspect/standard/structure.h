@@ -17,6 +17,8 @@ struct TableVersion {
     std::uint8_t minor = 0;
     std::uint8_t revision = 0;
 
+    bool operator==(const TableVersion&) const = default;
+
     [[nodiscard]] constexpr bool IsAtLeast(unsigned otherMajor, unsigned otherMinor) const noexcept {
         return major != otherMajor ? major > otherMajor : minor >= otherMinor;
     }
@@ -43,6 +45,10 @@ class TableWalk {
 public:
     /// `rawTable` begins with the 8-byte header.
     explicit TableWalk(std::span<const std::uint8_t> rawTable) noexcept;
+
+    /// `structures` begins with one of those that a table of this version has.
+    TableWalk(TableVersion version, std::span<const std::uint8_t> structures) noexcept
+        : version_(version), rest_(structures) {}
 
     [[nodiscard]] TableVersion Version() const noexcept { return version_; }
 

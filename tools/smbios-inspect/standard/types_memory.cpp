@@ -264,7 +264,7 @@ void VisitChannelDevices(RowVisitor& visitor) {
     constexpr std::size_t kFirst = 0x07;
     constexpr std::size_t kSize = 3;
     const std::size_t count = visitor.Area().Byte(0x06);
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count && kFirst + i * kSize < visitor.Area().Size(); ++i) {
         visitor.VisitObject(kMemoryChannelGroups[0], i, kFirst + i * kSize);
     }
 }

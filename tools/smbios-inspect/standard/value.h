@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -26,7 +27,10 @@ using Plain = std::variant<std::monostate, std::uint64_t, std::int64_t, std::str
 /// An element of a list.
 struct Item {
     Plain plain = {};
-    std::string text = {};  ///< as people read it
+    std::string text = {};   ///< as people read it
+    std::size_t offset = 0;  ///< of a handle: where it stands in the structure
+
+    bool operator==(const Item&) const = default;
 };
 
 /// The value of a field.
@@ -37,6 +41,8 @@ struct Value {
     bool isInLine = false;  ///< people read the items in `text`
     bool isList = false;    ///< there may be items: names of the bits set, or what a structure lists
     std::vector<Item> items = {};
+
+    bool operator==(const Value&) const = default;
 };
 
 /// Firmware gives none.
