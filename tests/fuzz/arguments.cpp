@@ -49,6 +49,8 @@ std::string_view NameOf(Command command) {
             return "diff";
         case Command::get:
             return "get";
+        case Command::picture:
+            return "picture";
         case Command::save:
             return "save";
         case Command::help:
@@ -67,6 +69,7 @@ std::vector<std::string> WrittenOut(const Options& options) {
         }
     };
     addIf(options.command == Command::save, options.target);
+    addIf(options.command == Command::picture && !options.target.empty(), "--output=" + options.target);
     addIf(options.command == Command::diff, options.oldTable);
     addIf(options.newTable.has_value(), options.newTable.value_or(""));
     addIf(options.report.from.has_value(), "--from=" + options.report.from.value_or(""));
@@ -106,7 +109,8 @@ void RequireNothingOfOtherCommands(const Options& options) {
     const bool isOfSave = options.force || !options.target.empty();
     const bool isOfFirmware = options.report.bytes || !options.report.handles.empty();
     const bool isOfDiff = options.newTable || !options.oldTable.empty();
-    Fuzz::Require(!isOfSave || options.command == Command::save, "only save takes a file and --force");
+    Fuzz::Require(!isOfSave || options.command == Command::save || options.command == Command::picture,
+                  "only save and picture take a file and --force");
     Fuzz::Require(!isOfFirmware || options.command == Command::firmware, "only firmware takes them");
     Fuzz::Require(!isOfDiff || options.command == Command::diff, "only diff takes two files");
 }

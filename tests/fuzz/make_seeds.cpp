@@ -175,6 +175,7 @@ int main(int argumentCount, char** arguments) {
         WriteTables(folder / "departures");
         WritePairs(folder / "diff");
         WriteTablesOfStandard(folder / "firmware");
+        WriteTables(folder / "picture");
         WriteSavedTables(folder / "saved-table");
         return 0;
     } catch (const std::exception& error) {

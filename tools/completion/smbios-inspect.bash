@@ -4,7 +4,7 @@ _smbios_inspect_types="
     bios system baseboard chassis processor memory cache connector slot oem group error address pointing battery
     security power probe cooling remote management channel additional tpm inventory"
 
-_smbios_inspect_commands="summary memory processors structures firmware get departures diff save"
+_smbios_inspect_commands="summary memory processors structures firmware get departures diff picture save"
 
 _smbios_inspect_keys="
     firmware.vendor firmware.version firmware.releaseDate firmware.romSize firmware.platformFirmwareRelease
@@ -29,7 +29,7 @@ _smbios_inspect_files() {
 _smbios_inspect_value() {
     local option=$1 word=$2
     case $option in
-        --from) _smbios_inspect_files "$word" ;;
+        --from | --output) _smbios_inspect_files "$word" ;;
         --type) mapfile -t COMPREPLY < <(compgen -W "$_smbios_inspect_types $(echo {0..48})" -- "$word") ;;
         --handle) COMPREPLY=() ;;
         *) return 1 ;;
@@ -43,6 +43,7 @@ _smbios_inspect_options() {
         diff) echo --json --quiet ;;
         firmware) echo --bytes --from --handle --json --quiet --type ;;
         get) echo --from ;;
+        picture) echo --from --force --output ;;
         save) echo --from --force ;;
         summary) echo --from --json ;;
         *) echo --from --help --json --version ;;
@@ -64,7 +65,7 @@ _smbios_inspect() {
 
     for ((i = 1; i < COMP_CWORD; ++i)); do
         case ${COMP_WORDS[i]} in
-            --from | --type | --handle) [[ ${COMP_WORDS[i + 1]} == = ]] && ((++i)); ((++i)) ;;
+            --from | --output | --type | --handle) [[ ${COMP_WORDS[i + 1]} == = ]] && ((++i)); ((++i)) ;;
             -*) ;;
             *) command=${COMP_WORDS[i]}; break ;;
         esac

@@ -120,6 +120,20 @@ TEST(Options, TakeForceForSave) {
     EXPECT_TRUE(ParseOptions(Words{"save", "--force", "file"}).force);
 }
 
+TEST(Options, TakeAFileForThePicture) {
+    EXPECT_EQ(ParseOptions(Words{"picture"}).target, "");
+    EXPECT_EQ(ParseOptions(Words{"picture", "--output", "file"}).target, "file");
+    EXPECT_TRUE(ParseOptions(Words{"--force", "--output=file", "picture"}).force);
+}
+
+TEST(Options, AFileForThePictureIsAFile) {
+    EXPECT_EQ(ErrorOf({"picture", "--output"}), "option --output needs a value");
+    EXPECT_EQ(ErrorOf({"picture", "--output", "-"}), "picture prints to standard output without --output");
+    EXPECT_EQ(ErrorOf({"picture", "--output", "a", "--output=b"}), "option --output is given twice");
+    EXPECT_EQ(ErrorOf({"picture", "--force"}), "picture takes --force only with --output");
+    EXPECT_EQ(ErrorOf({"picture", "file"}), "unexpected argument 'file'");
+}
+
 TEST(Options, StandInAnyOrder) {
     const Options options = ParseOptions(Words{"--from", "in", "--force", "save", "out"});
     EXPECT_EQ(options.command, Command::save);
@@ -187,6 +201,7 @@ TEST(Options, AnOptionOfAnotherCommandIsAnError) {
     EXPECT_EQ(ErrorOf({"save", "file", "--json"}), "save does not take --json");
     EXPECT_EQ(ErrorOf({"memory", "--type=17"}), "memory does not take --type");
     EXPECT_EQ(ErrorOf({"structures", "--force"}), "structures does not take --force");
+    EXPECT_EQ(ErrorOf({"save", "file", "--output=file"}), "save does not take --output");
 }
 
 TEST(Options, SaveWithoutAFileIsAnError) {
@@ -205,11 +220,13 @@ TEST(Options, TheUsageTextNamesEveryCommandAndOption) {
                                         "processors",
                                         "structures",
                                         "get",
+                                        "picture",
                                         "save",
                                         "--from",
                                         "--json",
                                         "--type",
                                         "--bytes",
+                                        "--output",
                                         "--force",
                                         "--help",
                                         "--version"}) {

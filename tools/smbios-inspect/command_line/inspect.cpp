@@ -8,6 +8,7 @@
 
 #include "smbios-inspect/command_line/diff.h"
 #include "smbios-inspect/command_line/options.h"
+#include "smbios-inspect/command_line/picture_output.h"
 #include "smbios-inspect/command_line/save.h"
 #include "smbios-inspect/command_line/table_input.h"
 #include "smbios-inspect/output/text_layout.h"
@@ -50,6 +51,9 @@ int Report(const Options& options, const OutputStyle& style, std::ostream& outpu
             break;
         case Command::diff:
             return CompareTables(options, style, output, errors);
+        case Command::picture:
+            DrawPicture(options.target, options.force, output);
+            break;
         case Command::save:
             SaveTable(options.target, options.force);
             break;

@@ -24,6 +24,7 @@ struct CommandSyntax {
     bool takesQuiet = false;
     bool takesBytes = false;
     bool takesKeys = false;
+    bool takesOutput = false;
     bool takesTarget = false;
     bool takesTables = false;
     bool takesFrom = true;
@@ -49,6 +50,7 @@ constexpr CommandSyntax kCommands[] = {
      .takesQuiet = true,
      .takesTables = true,
      .takesFrom = false},
+    {.name = "picture", .command = Command::picture, .takesOutput = true},
     {.name = "save", .command = Command::save, .takesTarget = true},
 };
 
@@ -180,6 +182,9 @@ bool ReadOption(ArgumentReader& reader, Options& options) {
     } else if (const auto file = reader.ValueOf("--from")) {
         RequireFirst(!options.report.from, "--from");
         options.report.from = *file;
+    } else if (const auto output = reader.ValueOf("--output")) {
+        RequireFirst(options.target.empty(), "--output");
+        options.target = *output;
     } else if (const auto type = reader.ValueOf("--type")) {
         AddTypes(*type, options.report.types);
     } else if (const auto handle = reader.ValueOf("--handle")) {
@@ -219,8 +224,12 @@ void ReadWords(const std::vector<std::string_view>& words, Options& options) {
     RequireThat(syntax.takesQuiet || !options.report.quiet, syntax, "does not take --quiet");
     RequireThat(syntax.takesBytes || !options.report.bytes, syntax, "does not take --bytes");
     RequireThat(!options.report.bytes || !options.report.quiet, syntax, "takes --bytes or --quiet, not both");
-    RequireThat(syntax.takesTarget || !options.force, syntax, "does not take --force");
     RequireThat(syntax.takesFrom || !options.report.from, syntax, "does not take --from");
+    RequireThat(syntax.takesOutput || options.target.empty(), syntax, "does not take --output");
+    RequireThat(options.target != "-", syntax, "prints to standard output without --output");
+    const bool writesFile = syntax.takesTarget || !options.target.empty();
+    RequireThat(writesFile || syntax.takesOutput || !options.force, syntax, "does not take --force");
+    RequireThat(writesFile || !options.force, syntax, "takes --force only with --output");
     if (syntax.takesKeys) {
         std::transform(words.begin() + 1, words.end(), std::back_inserter(options.report.keys), KeyOf);
         return;
@@ -270,6 +279,7 @@ std::string_view UsageText() noexcept {
            "       smbios-inspect get [KEY]... [--from FILE]\n"
            "       smbios-inspect departures [--from FILE] [--json]\n"
            "       smbios-inspect diff OLD [NEW] [--json] [--quiet]\n"
+           "       smbios-inspect picture [--output FILE [--force]] [--from FILE]\n"
            "       smbios-inspect save FILE [--force] [--from FILE]\n"
            "       smbios-inspect --help | --version\n"
            "\n"
@@ -285,6 +295,7 @@ std::string_view UsageText() noexcept {
            "  departures    the values that the library gives otherwise than the standard\n"
            "  diff          what differs between the saved table OLD and NEW, which is this\n"
            "                machine's when left out\n"
+           "  picture       the machine drawn, as SVG\n"
            "  save          write the raw table to FILE\n"
            "\n"
            "options:\n"
@@ -299,6 +310,7 @@ std::string_view UsageText() noexcept {
            "  --quiet, -q   print values only: no handles, bytes or remarks; of diff print\n"
            "                nothing\n"
            "  --bytes       print the bytes and strings of every structure, too\n"
+           "  --output FILE write the picture to FILE, not to standard output\n"
            "  --force       overwrite FILE\n"
            "  --help        print this text\n"
            "  --version     print the version\n"

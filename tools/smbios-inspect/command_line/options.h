@@ -20,6 +20,7 @@ enum class Command : std::uint8_t {
     get,
     departures,
     diff,
+    picture,
     save,
     help,
     version
@@ -29,10 +30,10 @@ enum class Command : std::uint8_t {
 struct Options {
     Command command = Command::summary;
     Request report = {};
-    std::string target = {};                             ///< the file to save the table to
-    bool force = false;                                  ///< overwrite that file
     std::string oldTable = {};                           ///< the saved table to compare with
     std::optional<std::string> newTable = std::nullopt;  ///< the one compared; the machine's when left out
+    std::string target = {};  ///< the file to write the table or the picture to; empty for none
+    bool force = false;       ///< overwrite that file
 };
 
 /// A command line that asks for nothing the tool can do; what() says why.
