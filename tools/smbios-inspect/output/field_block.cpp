@@ -22,11 +22,33 @@ std::size_t LabelWidth(const std::vector<FieldText>& fields) {
     return width;
 }
 
+/// Where there is no terminal: nothing is wrapped or coloured.
+void PrintPlainly(const std::vector<FieldText>& fields, std::size_t start, std::ostream& output) {
+    std::string page;
+    for (const FieldText& field : fields) {
+        std::string_view label = field.label;
+        std::string_view mark = field.isMarked ? " *" : "";
+        for (const std::string& text : field.lines) {
+            page.append(kIndent, ' ').append(label).append(start - kIndent - label.size(), ' ');
+            AppendPrintable(text, page);
+            page += std::exchange(mark, "");
+            page.resize(WithoutTrailingBlanks(page).size());
+            page += '\n';
+            label = "";
+        }
+    }
+    output << page;
+}
+
 }  // namespace
 
 void PrintFields(const std::vector<FieldText>& fields, const OutputStyle& style, std::ostream& output) {
     const std::size_t labelWidth = LabelWidth(fields);
     const std::size_t start = kIndent + labelWidth + kColumnGap;
+    if (style.width == 0 && !style.colour) {
+        PrintPlainly(fields, start, output);
+        return;
+    }
     for (const FieldText& field : fields) {
         const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
         std::string label = std::string(kIndent, ' ') + field.label;

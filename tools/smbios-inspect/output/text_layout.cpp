@@ -104,16 +104,21 @@ std::string_view EscapeSequenceFor(Emphasis emphasis) noexcept {
 
 std::string Printable(std::string_view text) {
     std::string printable;
+    AppendPrintable(text, printable);
+    return printable;
+}
+
+void AppendPrintable(std::string_view text, std::string& line) {
     for (;;) {
         const std::size_t plain = PlainLength(text);
-        printable += text.substr(0, plain);
+        line += text.substr(0, plain);
         text.remove_prefix(plain);
         if (text.empty()) {
-            return printable;
+            return;
         }
         const auto [length, isWhole] = StartOf(text);
         const bool isShown = isWhole && !IsControl(text.substr(0, length));
-        printable += isShown ? text.substr(0, length) : kReplacementCharacter;
+        line += isShown ? text.substr(0, length) : kReplacementCharacter;
         text.remove_prefix(isWhole ? length : 1);
     }
 }

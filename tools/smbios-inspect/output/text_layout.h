@@ -16,6 +16,9 @@ namespace SMBIOS::Inspect {
 /// text, and bytes that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::string Printable(std::string_view text);
 
+/// The same behind what `line` holds already.
+void AppendPrintable(std::string_view text, std::string& line);
+
 /// Number of terminal columns that printable UTF-8 takes, one for each character.
 [[nodiscard]] std::size_t DisplayWidth(std::string_view text) noexcept;
 

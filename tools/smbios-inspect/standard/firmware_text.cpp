@@ -19,56 +19,61 @@ bool IsReference(ValueKind kind) noexcept {
 /// "\tLabel: value", and the items of a list below it. Lines are not wrapped: scripts read them, too.
 class TextVisitor final : public FieldVisitor {
 public:
-    TextVisitor(bool isQuiet, std::ostream& output) noexcept : isQuiet_(isQuiet), output_(output) {}
+    TextVisitor(bool isQuiet, std::string& page) noexcept : isQuiet_(isQuiet), page_(page) {}
 
     void Visit(const Field& field) override {
-        PrintGroupHeading(field.place);
+        AppendGroupHeading(field.place);
         if (field.label.empty() || (isQuiet_ && IsReference(field.kind))) {
             return;
         }
-        output_ << '\t' << Numbered(field.label, field.place.index) << ':'
-                << (field.value.text.empty() ? "" : " ") << Printable(field.value.text) << '\n';
+        page_.append("\t").append(Numbered(field.label, field.place.index)).append(":");
+        page_ += field.value.text.empty() ? "" : " ";
+        AppendPrintable(field.value.text, page_);
+        page_ += '\n';
         if (field.value.isInLine) {
             return;
         }
         for (const Item& item : field.value.items) {
-            output_ << "\t\t" << Printable(item.text) << '\n';
+            page_ += "\t\t";
+            AppendPrintable(item.text, page_);
+            page_ += '\n';
         }
     }
 
 private:
-    void PrintGroupHeading(const GroupPlace& place) {
+    void AppendGroupHeading(const GroupPlace& place) {
         const bool isNext = place.group.data() != group_.data() || place.index != index_;
         group_ = place.group;
         index_ = place.index;
         if (isNext && !place.heading.empty()) {
-            output_ << Numbered(place.heading, place.index) << '\n';
+            page_.append(Numbered(place.heading, place.index)).append("\n");
         }
     }
 
     bool isQuiet_;
-    std::ostream& output_;
+    std::string& page_;
     std::string_view group_;
     std::size_t index_ = 0;
 };
 
-void PrintBytes(std::span<const std::uint8_t> bytes, std::ostream& output) {
+void AppendBytes(std::span<const std::uint8_t> bytes, std::string& page) {
     constexpr std::size_t kBytesInLine = 16;
     constexpr char kDigits[] = "0123456789ABCDEF";
-    output << "\tHeader and Data:\n";
+    page += "\tHeader and Data:\n";
     for (std::size_t i = 0; i < bytes.size(); ++i) {
-        output << (i % kBytesInLine == 0 ? "\t\t" : " ") << kDigits[bytes[i] >> 4] << kDigits[bytes[i] & 0x0F]
-               << (i % kBytesInLine == kBytesInLine - 1 || i + 1 == bytes.size() ? "\n" : "");
+        page += i % kBytesInLine == 0 ? "\t\t" : " ";
+        page += kDigits[bytes[i] >> 4];
+        page += kDigits[bytes[i] & 0x0F];
+        page += i % kBytesInLine == kBytesInLine - 1 || i + 1 == bytes.size() ? "\n" : "";
     }
 }
 
-void PrintStrings(const Structure& structure, std::ostream& output) {
-    if (structure.strings.empty()) {
-        return;
-    }
-    output << "\tStrings:\n";
+void AppendStrings(const Structure& structure, std::string& page) {
+    page += structure.strings.empty() ? "" : "\tStrings:\n";
     for (const std::string_view text : structure.strings) {
-        output << "\t\t" << Printable(text) << '\n';
+        page += "\t\t";
+        AppendPrintable(text, page);
+        page += '\n';
     }
 }
 
@@ -81,19 +86,19 @@ void PrintStructure(const Structure& structure,
     const bool isQuiet = detail == Detail::values;
     const std::string heading = isQuiet ? std::string(StructureName(structure.Type()))
                                         : StructureHeading(structure.Type(), structure.bytes);
-    output << Emphasised(heading, Emphasis::heading, style) << '\n';
-    TextVisitor visitor(isQuiet, output);
+    std::string page = Emphasised(heading, Emphasis::heading, style) + "\n";
+    TextVisitor visitor(isQuiet, page);
     VisitFields(structure, visitor);
-    if (isQuiet) {
-        return;
+    if (!isQuiet) {
+        if (detail == Detail::bytes || !IsDescribed(structure.Type())) {
+            AppendBytes(structure.bytes, page);
+            AppendStrings(structure, page);
+        }
+        if (const std::string remark = RemarkOn(structure); !remark.empty()) {
+            page.append("\t").append(Emphasised(remark, Emphasis::warning, style)).append("\n");
+        }
     }
-    if (detail == Detail::bytes || !IsDescribed(structure.Type())) {
-        PrintBytes(structure.bytes, output);
-        PrintStrings(structure, output);
-    }
-    if (const std::string remark = RemarkOn(structure); !remark.empty()) {
-        output << '\t' << Emphasised(remark, Emphasis::warning, style) << '\n';
-    }
+    output << page;
 }
 
 bool HasValues(const Structure& structure) noexcept {
