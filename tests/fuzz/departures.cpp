@@ -1,5 +1,5 @@
 // A raw table, its header included, read as the library and as the SMBIOS standard has it: every difference
-// has a reason.
+// has a reason. The report of structures marks them.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +12,7 @@
 #include "smbios-inspect/departures/find_departures.h"
 #include "smbios-inspect/departures/reasons.h"
 #include "smbios-inspect/reports/departures_report.h"
+#include "smbios-inspect/reports/structures_report.h"
 #include "tests/fuzz/given_table.h"
 #include "tests/fuzz/report.h"
 #include "tests/fuzz/require.h"
@@ -40,5 +41,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Inspect::Departures::FindDepartures(rawTable, Manager::DecodeTable(rawTable), reasons);
     Fuzz::RequireJson([](std::ostream& output) { Inspect::ReportDepartures({.json = true}, {}, output); });
     Fuzz::RequireText([&](std::ostream& output) { Inspect::ReportDepartures({}, table.Style(), output); });
+    Fuzz::RequireText([&](std::ostream& output) { Inspect::ReportStructures({}, table.Style(), output); });
     return 0;
 }
