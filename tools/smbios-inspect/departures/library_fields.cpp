@@ -62,25 +62,32 @@ template <class Value>
 inline constexpr bool kIsText =
     std::is_same_v<Value, std::string> || std::is_same_v<Value, std::optional<std::string>>;
 
-/// Whether the field `each` shows the text `text` to people, beside its own code.
-template <class Each, class Text>
-bool Shows(const Each& each, const Text& text) {
-    if constexpr (requires { each.form.text == text.value; }) {
-        return each.form.text == text.value;
-    } else {
+/// A text of a record that a field of it shows beside its own code, and that field's label.
+template <class Record>
+struct ShownText {
+    const char* label;
+    std::string Record::*text = nullptr;
+    std::optional<std::string> Record::*optionalText = nullptr;
+
+    [[nodiscard]] constexpr bool Is(std::string Record::*other) const noexcept { return text == other; }
+    [[nodiscard]] constexpr bool Is(std::optional<std::string> Record::*other) const noexcept {
+        return optionalText == other;
+    }
+    template <class Value, class Owner>
+    [[nodiscard]] constexpr bool Is(Value Owner::*) const noexcept {
         return false;
     }
-}
+};
 
-template <class Fields, class Text>
-const char* LabelOf(const Fields& fields, const Text& text) {
-    const char* label = text.label;
-    ForEachField(fields, [&](const auto& each) {
-        if (label == kShownElsewhere && Shows(each, text)) {
-            label = each.label;
-        }
-    });
-    return label;
+template <class Record, class Field>
+constexpr ShownText<Record> TextShownBy(const Field& field) {
+    ShownText<Record> shown{.label = field.label};
+    if constexpr (requires { shown.text = field.form.text; }) {
+        shown.text = field.form.text;
+    } else if constexpr (requires { shown.optionalText = field.form.text; }) {
+        shown.optionalText = field.form.text;
+    }
+    return shown;
 }
 
 /// What there is to ask of the record of one decoder.
@@ -88,6 +95,18 @@ template <class Decoder>
 struct RecordReader {
     using Record = std::remove_cvref_t<decltype(*std::declval<const Decoder&>().GetRecord())>;
     static constexpr auto kFields = AllFieldsOf<Record>();
+    static constexpr std::array kShownTexts =
+        std::apply([](const auto&... field) { return std::array{TextShownBy<Record>(field)...}; }, kFields);
+
+    template <class Field>
+    static const char* LabelOf(const Field& field) {
+        if (field.label != kShownElsewhere) {
+            return field.label;
+        }
+        const auto* const shown =
+            std::ranges::find_if(kShownTexts, [&](const auto& each) { return each.Is(field.value); });
+        return shown == kShownTexts.end() ? kShownElsewhere : shown->label;
+    }
 
     static const Record& RecordOf(const BaseStructure& decoder) {
         return *dynamic_cast<const Decoder&>(decoder).GetRecord();
@@ -105,7 +124,7 @@ struct RecordReader {
         ForEachField(kFields, [&](const auto& field) {
             const auto& value = record.*field.value;
             constexpr bool kIsTextField = kIsText<std::remove_cvref_t<decltype(value)>>;
-            fields.push_back({field.name, LabelOf(kFields, field), kIsTextField, ValueOf(value)});
+            fields.push_back({field.name, LabelOf(field), kIsTextField, ValueOf(value)});
         });
         return fields;
     }
@@ -128,7 +147,7 @@ struct RecordReader {
     static std::string_view LabelAt(std::size_t index) {
         std::string_view found;
         ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
-            const char* const label = i++ == index ? LabelOf(kFields, field) : kShownElsewhere;
+            const char* const label = i++ == index ? LabelOf(field) : kShownElsewhere;
             found = label == kShownElsewhere ? found : std::string_view(label);
         });
         return found;
