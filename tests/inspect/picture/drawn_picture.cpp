@@ -158,7 +158,7 @@ double LuminanceOf(const Colour& colour) {
 }
 
 double ContrastOf(const Colour& one, const Colour& other) {
-    const auto [darker, lighter] = std::minmax(LuminanceOf(one), LuminanceOf(other));
+    const auto [darker, lighter] = std::minmax({LuminanceOf(one), LuminanceOf(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

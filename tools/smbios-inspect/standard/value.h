@@ -22,7 +22,24 @@ enum class ValueKind : std::uint8_t {
 };
 
 /// What a value is, apart from its words: nothing (not specified, unknown), a number or a text.
-using Plain = std::variant<std::monostate, std::uint64_t, std::int64_t, std::string>;
+struct Plain : std::variant<std::monostate, std::uint64_t, std::int64_t, std::string> {
+    using Alternatives = variant;
+    using Alternatives::variant;
+
+    Plain() = default;
+    Plain(const Plain& other) : Alternatives(CopyOf(other)) {}
+    Plain(Plain&&) noexcept = default;
+    Plain& operator=(const Plain& other) { return *this = Plain(other); }
+    Plain& operator=(Plain&&) noexcept = default;
+    ~Plain() = default;
+
+private:
+    /// The text is copied first: in libstdc++ 12 a variant of these types that has no memory for its copy
+    /// destroys what it does not hold.
+    static Alternatives CopyOf(const Alternatives& other) {
+        return std::visit([](auto value) { return Alternatives(std::move(value)); }, other);
+    }
+};
 
 /// An element of a list.
 struct Item {
