@@ -357,7 +357,8 @@ TEST(PictureOfProbes, TellsTheirStateInColourAndWords) {
                             "OK \xC2\xB7 Motherboard",
                             "Non-critical \xC2\xB7 Motherboard",
                             "Critical \xC2\xB7 Motherboard",
-                            testing::MatchesRegex("Non-recoverable \xC2\xB7 Mo[a-z]*\xE2\x80\xA6")));
+                            testing::AllOf(testing::StartsWith("Non-recoverable \xC2\xB7 Mo"),
+                                           testing::EndsWith("\xE2\x80\xA6"))));
 }
 
 TEST(PictureOfConnectors, SetsThemOnAnEdge) {
