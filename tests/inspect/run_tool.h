@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "smbios-inspect/command_line/inspect.h"
+#include "smbios-inspect/reports/from_option.h"
 
 namespace SMBIOS::Tests {
 
@@ -33,13 +34,14 @@ inline std::string ContentsOf(const std::filesystem::path& file) {
     return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
-/// A checked-in output; `from` is the table that the user named, which some texts repeat.
+/// A checked-in output; `from` is the table that the user named, which some texts repeat as a shell takes it.
 inline std::string GoldenText(const char* name, const std::string& from = SMBIOS_SAMPLE_TABLE) {
     constexpr std::string_view kPlaceholder = "@TABLE@";
     std::string text =
         ContentsOf(std::filesystem::path(SMBIOS_SOURCE_DIR) / "tests" / "inspect" / "golden" / name);
     if (const std::size_t place = text.find(kPlaceholder); place != std::string::npos) {
-        text.replace(place, kPlaceholder.size(), from);
+        constexpr std::string_view kOption = " --from ";
+        text.replace(place, kPlaceholder.size(), Inspect::FromOption({.from = from}).substr(kOption.size()));
     }
     return text;
 }
