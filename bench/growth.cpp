@@ -4,13 +4,13 @@
 #include <cstdlib>
 #include <new>
 #include <ostream>
-#include <streambuf>
 #include <vector>
 
 #include "bench/tables.h"
 #include "manager/decoded_table.h"
 #include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/records/filed_structure.h"
+#include "tests/support/counting_buffer.h"
 
 // Time and memory of a structure while tables grow: both must stay what they are.
 namespace {
@@ -24,14 +24,8 @@ std::size_t peakBytes = 0;
 /// What stands in front of each allocation: its size, at the largest alignment.
 constexpr std::size_t kFront = alignof(std::max_align_t);
 
-/// Takes what is written, and forgets it.
-class ForgetfulBuffer final : public std::streambuf {
-    int_type overflow(int_type character) override { return traits_type::not_eof(character); }
-    std::streamsize xsputn(const char*, std::streamsize size) override { return size; }
-};
-
 void WriteJson(const Manager::DecodedTable& table) {
-    ForgetfulBuffer buffer;
+    Tests::CountingBuffer buffer;
     std::ostream output(&buffer);
     Inspect::JsonWriter json(output);
     json.BeginArray();

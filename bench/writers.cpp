@@ -1,7 +1,6 @@
 #include <benchmark/benchmark.h>
 
 #include <ostream>
-#include <streambuf>
 
 #include "bench/tables.h"
 #include "smbios-inspect/picture/picture.h"
@@ -10,6 +9,7 @@
 #include "smbios-inspect/reports/firmware_report.h"
 #include "smbios-inspect/reports/structures_report.h"
 #include "smbios-inspect/reports/summary_report.h"
+#include "tests/support/counting_buffer.h"
 #include "tests/support/fake_platform.h"
 
 // Each report of the tool, from the raw table to the last byte written.
@@ -18,16 +18,10 @@ namespace {
 using namespace SMBIOS;
 using namespace SMBIOS::Inspect;
 
-/// Takes what is written, and forgets it.
-class ForgetfulBuffer final : public std::streambuf {
-    int_type overflow(int_type character) override { return traits_type::not_eof(character); }
-    std::streamsize xsputn(const char*, std::streamsize size) override { return size; }
-};
-
 template <class Write>
 void Measure(benchmark::State& state, Write write) {
     const Tests::FakeFirmwareTable firmware(Bench::MeasuredTable());
-    ForgetfulBuffer buffer;
+    Tests::CountingBuffer buffer;
     std::ostream output(&buffer);
     for (auto _ : state) {
         write(output);

@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <new>
 #include <ostream>
-#include <streambuf>
 
 #include "tests/inspect/comparison/comparison_support.h"
 #include "tests/support/counted_allocations.h"
+#include "tests/support/counting_buffer.h"
 #include "tests/support/failing_allocation.h"
 #include "tests/support/worst_tables.h"
 
@@ -15,24 +15,6 @@ namespace SMBIOS::Tests {
 namespace {
 
 constexpr std::size_t kKibibyte = 1024;
-
-/// Counts what is written to it.
-class CountingBuffer final : public std::streambuf {
-public:
-    [[nodiscard]] std::size_t Size() const noexcept { return size_; }
-
-private:
-    int_type overflow(int_type character) override {
-        ++size_;
-        return character;
-    }
-    std::streamsize xsputn(const char*, std::streamsize size) override {
-        size_ += static_cast<std::size_t>(size);
-        return size;
-    }
-
-    std::size_t size_ = 0;
-};
 
 struct Cost {
     std::size_t allocations = 0;

@@ -2,7 +2,6 @@
 
 #include <ostream>
 #include <sstream>
-#include <streambuf>
 #include <string>
 
 #include "smbios-inspect/reports/departures_report.h"
@@ -14,6 +13,7 @@
 #include "smbios-inspect/reports/summary_report.h"
 #include "tests/support/child_process_posix.h"
 #include "tests/support/counted_allocations.h"
+#include "tests/support/counting_buffer.h"
 #include "tests/support/fake_platform.h"
 #include "tests/support/worst_tables.h"
 
@@ -22,24 +22,6 @@ namespace SMBIOS::Tests {
 namespace {
 
 constexpr std::size_t kKibibyte = 1024;
-
-/// Counts what is written to it.
-class CountingBuffer final : public std::streambuf {
-public:
-    [[nodiscard]] std::size_t Size() const noexcept { return size_; }
-
-private:
-    int_type overflow(int_type character) override {
-        ++size_;
-        return character;
-    }
-    std::streamsize xsputn(const char*, std::streamsize size) override {
-        size_ += static_cast<std::size_t>(size);
-        return size;
-    }
-
-    std::size_t size_ = 0;
-};
 
 struct Writer {
     const char* name;
