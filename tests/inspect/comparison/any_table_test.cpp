@@ -3,34 +3,29 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "platform/saved_table.h"
 #include "tests/inspect/captured_tables.h"
 #include "tests/inspect/comparison/comparison_support.h"
+#include "tests/support/random.h"
 
 // What holds for the differences of any two tables, those of real machines and random ones.
 namespace SMBIOS::Tests {
 namespace {
 
-class Random {
+class RandomContent : public Random {
 public:
-    explicit Random(unsigned seed) : engine_(seed) {}
-
-    std::size_t Below(std::size_t limit) { return engine_() % limit; }
+    using Random::Random;
 
     /// Small numbers, which are counts, lengths and numbers of strings, come often.
     std::uint8_t Byte() { return static_cast<std::uint8_t>(Below(2) == 0 ? Below(8) : Below(256)); }
-
-private:
-    std::mt19937 engine_;
 };
 
 constexpr std::uint8_t kBootIntegrityServices = 31;  // its checksum counts its handle
 
-EditableStructure RandomStructure(std::uint16_t handle, Random& random) {
+EditableStructure RandomStructure(std::uint16_t handle, RandomContent& random) {
     const std::size_t type = random.Below(50);
     EditableStructure structure{std::vector<std::uint8_t>(4 + random.Below(60))};
     std::ranges::generate(structure.bytes, [&] { return random.Byte(); });
@@ -44,7 +39,7 @@ EditableStructure RandomStructure(std::uint16_t handle, Random& random) {
 
 /// Bytes that repeat small numbers, and so handles 0x0000 to 0x0007 beside others, which lead nowhere.
 EditableTable RandomTable(unsigned seed) {
-    Random random(seed);
+    RandomContent random(seed);
     EditableTable table(TableBuilder(3, 8, 0).RawTable());
     for (std::uint16_t i = 0; i < 60; ++i) {
         table.Structures().push_back(
@@ -55,7 +50,7 @@ EditableTable RandomTable(unsigned seed) {
 
 /// Removes structures, adds some, and changes bytes and strings of others.
 void Damage(EditableTable& table, unsigned seed) {
-    Random random(seed);
+    RandomContent random(seed);
     for (EditableStructure& each : table.Structures()) {
         if (random.Below(4) == 0 && each.bytes.size() > 4) {
             each.SetByte(4 + random.Below(each.bytes.size() - 4), random.Byte());
@@ -210,7 +205,7 @@ TEST(RandomDiff, TellsOfEveryByteThatIsNoHandle) {
 
 TEST(RandomDiff, OfBytesThatAreNoStructuresIsNoneOfThemselves) {
     for (unsigned seed = 0; seed < kRandomTables; ++seed) {
-        Random random(seed);
+        RandomContent random(seed);
         std::vector<std::uint8_t> bytes(500);
         std::ranges::generate(bytes, [&] { return random.Byte(); });
         const RawTable table = TableBuilder(3, 8, 0).AddBytes(bytes).RawTable();

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <random>
 #include <set>
 #include <string>
 #include <vector>
@@ -11,6 +10,7 @@
 #include "smbios-inspect/departures/compare_structure.h"
 #include "structures/decoded_types.h"
 #include "tests/inspect/departures/departures_support.h"
+#include "tests/support/random.h"
 
 // Structures that no firmware would write: whatever departs in them has a reason.
 namespace SMBIOS::Tests {
@@ -25,13 +25,13 @@ using Manager::SmbiosVersionIndex;
 using Samples::StructureBuilder;
 using Samples::TableBuilder;
 
-class Random {
+class RandomContent : public Random {
 public:
-    explicit Random(unsigned seed) : engine_(seed) {}
+    using Random::Random;
 
     /// Small numbers, which are codes and counts, come often, and so do the markers.
     std::uint8_t Byte() {
-        const auto bits = static_cast<unsigned>(engine_());
+        const auto bits = Next();
         switch (bits >> 8 & 0x07U) {
             case 0:
                 return 0x00;
@@ -46,14 +46,9 @@ public:
                 return static_cast<std::uint8_t>(bits);
         }
     }
-
-    std::size_t Below(std::size_t limit) { return engine_() % limit; }
-
-private:
-    std::mt19937 engine_;
 };
 
-StructureBuilder RandomStructure(std::uint8_t type, std::size_t length, Random& random) {
+StructureBuilder RandomStructure(std::uint8_t type, std::size_t length, RandomContent& random) {
     StructureBuilder structure(type, static_cast<std::uint8_t>(length));
     for (std::size_t offset = 4; offset < length; ++offset) {
         structure.Byte(offset, random.Byte());
@@ -107,7 +102,7 @@ public:
 class RandomDepartures : public testing::TestWithParam<std::uint8_t> {};
 
 TEST_P(RandomDepartures, AllHaveAReason) {
-    Random random(GetParam());
+    RandomContent random(GetParam());
     ReasonChecker checker;
     for (const Manager::VersionRow& version : Manager::versionMap) {
         for (std::size_t length = 4; length < 128 && !HasFailure(); ++length) {
@@ -135,7 +130,7 @@ bool IsNoWord(const LibraryField& field, const Pair& pair) {
 
 TEST_P(RandomDepartures, TellEveryFieldOfAnotherStructure) {
     constexpr std::size_t kLength = 0x70;
-    Random random(GetParam());
+    RandomContent random(GetParam());
     NameKeeper keeper;
     Inspect::Departures::Pairings pairings;
     std::vector<LibraryField> fields;
@@ -169,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(Each, RandomDepartures, testing::ValuesIn(DecodedTypeNu
 
 TEST(RandomTables, AreComparedWhereverTheyEnd) {
     constexpr int kTables = 2000;
-    Random random(1);
+    RandomContent random(1);
     for (int i = 0; i < kTables; ++i) {
         std::vector<std::uint8_t> bytes(1 + random.Below(600));
         for (std::uint8_t& byte : bytes) {

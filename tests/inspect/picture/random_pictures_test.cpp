@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "samples/table_builder.h"
 #include "tests/inspect/picture/drawn_picture.h"
+#include "tests/support/random.h"
 
 // Pictures of tables that no firmware would write.
 namespace SMBIOS::Tests {
@@ -19,11 +19,9 @@ using Samples::TableBuilder;
 
 constexpr std::uint8_t kDrawnTypes[] = {0, 1, 2, 3, 4, 7, 8, 9, 10, 16, 17, 27, 28, 41};
 
-class Random {
+class RandomContent : public Random {
 public:
-    explicit Random(unsigned seed) : engine_(seed) {}
-
-    std::size_t Below(std::size_t limit) { return engine_() % limit; }
+    using Random::Random;
 
     /// Small numbers, which are codes, counts and numbers of strings, come often.
     std::uint8_t Byte() { return static_cast<std::uint8_t>(Below(2) == 0 ? Below(256) : Below(8)); }
@@ -49,12 +47,9 @@ public:
         }
         return text;
     }
-
-private:
-    std::mt19937 engine_;
 };
 
-StructureBuilder RandomStructure(Random& random) {
+StructureBuilder RandomStructure(RandomContent& random) {
     const std::uint8_t type = kDrawnTypes[random.Below(std::size(kDrawnTypes))];
     const auto length = static_cast<std::uint8_t>(4 + random.Below(random.Below(2) == 0 ? 30 : 120));
     StructureBuilder structure(type, length, static_cast<std::uint16_t>(random.Below(8)));
@@ -70,7 +65,7 @@ StructureBuilder RandomStructure(Random& random) {
 class RandomPictures : public testing::TestWithParam<unsigned> {};
 
 TEST_P(RandomPictures, HaveNoFault) {
-    Random random(GetParam());
+    RandomContent random(GetParam());
     TableBuilder table(3, 8, 0);
     for (std::size_t structures = random.Below(40); structures != 0; --structures) {
         table.Add(RandomStructure(random));
@@ -79,7 +74,7 @@ TEST_P(RandomPictures, HaveNoFault) {
 }
 
 TEST_P(RandomPictures, AreDrawnOfAnyBytes) {
-    Random random(GetParam());
+    RandomContent random(GetParam());
     std::vector<std::uint8_t> bytes(random.Below(400));
     std::ranges::generate(bytes, [&] { return random.Byte(); });
     EXPECT_EQ(FaultsOf(PictureOf(bytes)), "");

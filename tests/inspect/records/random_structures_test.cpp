@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <random>
 #include <span>
 #include <sstream>
 #include <string>
@@ -19,6 +18,7 @@
 #include "structures/decoded_types.h"
 #include "tests/support/harmless_text.h"
 #include "tests/support/json.h"
+#include "tests/support/random.h"
 
 // Whatever the firmware writes, the output stays valid and harmless. Below the manager, which loads only
 // once.
@@ -33,11 +33,10 @@ using Manager::Types::StructureTypes;
 constexpr int kTables = 1500;
 
 /// Makes tables, the same ones in every run.
-class Random {
+class RandomContent : public Random {
 public:
-    explicit Random(unsigned seed) : engine_(seed) {}
+    using Random::Random;
 
-    std::size_t Below(std::size_t limit) { return engine_() % limit; }
     std::uint8_t Byte() { return static_cast<std::uint8_t>(Below(256)); }
 
     /// Likelier one of a type that has a decoder.
@@ -89,13 +88,10 @@ public:
         const std::size_t newest = std::size(versionMap) - 1;
         return versionMap[Below(2) == 0 ? newest : Below(newest)].index;
     }
-
-private:
-    std::mt19937 engine_;
 };
 
 /// A structure whose header is right and whose fields may refer to its strings.
-Manager::RawStructure WellFormedStructure(Random& random) {
+Manager::RawStructure WellFormedStructure(RandomContent& random) {
     Manager::RawStructure structure;
     structure.type = random.Type();
     structure.formattedBytes = random.Bytes(4 + random.Below(252));
@@ -137,7 +133,7 @@ void ExpectHarmlessText(const std::vector<FiledStructure>& structures, const Out
 }
 
 TEST(StructuresOfRandomTables, RandomBytesGiveValidJsonAndHarmlessText) {
-    Random random(1);
+    RandomContent random(1);
     for (int i = 0; i < kTables; ++i) {
         const SmbiosVersionIndex version = random.Version();
         const std::vector<std::uint8_t> table = random.Bytes(random.Below(600));
@@ -155,7 +151,7 @@ TEST(StructuresOfRandomTables, RandomBytesGiveValidJsonAndHarmlessText) {
 }
 
 TEST(StructuresOfRandomTables, WellFormedStructuresWithWildStringsGiveValidJsonAndHarmlessText) {
-    Random random(2);
+    RandomContent random(2);
     for (int i = 0; i < kTables; ++i) {
         const SmbiosVersionIndex version = random.Version();
         const std::vector<FiledStructure> structures = {Decoded(WellFormedStructure(random), version),
@@ -168,7 +164,7 @@ TEST(StructuresOfRandomTables, WellFormedStructuresWithWildStringsGiveValidJsonA
 
 TEST(StructuresOfRandomTables, NoLineOfShortWordsIsWiderThanTheTerminal) {
     constexpr std::size_t kWidth = 80;
-    Random random(3);
+    RandomContent random(3);
     for (int i = 0; i < kTables; ++i) {
         const SmbiosVersionIndex version = random.Version();
         std::ostringstream output;

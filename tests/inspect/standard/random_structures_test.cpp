@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "smbios-inspect/standard/types.h"
 #include "tests/inspect/standard/standard_support.h"
+#include "tests/support/random.h"
 
 // Structures that no firmware would write.
 namespace SMBIOS::Tests {
@@ -20,23 +20,18 @@ using Inspect::Standard::FieldRow;
 constexpr int kTypes = 256;
 constexpr int kLengths = 256;
 
-class Random {
+class RandomContent : public Random {
 public:
-    explicit Random(unsigned seed) : engine_(seed) {}
+    using Random::Random;
 
     /// Small numbers, which are counts and lengths, come often.
     std::uint8_t Byte() {
-        const auto bits = static_cast<unsigned>(engine_());
+        const auto bits = Next();
         return static_cast<std::uint8_t>((bits & 0x100U) != 0 ? bits : bits & 0x07U);
     }
-
-    std::size_t Below(std::size_t limit) { return engine_() % limit; }
-
-private:
-    std::mt19937 engine_;
 };
 
-StructureBuilder RandomStructure(int type, int length, Random& random) {
+StructureBuilder RandomStructure(int type, int length, RandomContent& random) {
     StructureBuilder structure(static_cast<std::uint8_t>(type), static_cast<std::uint8_t>(length));
     for (int offset = 4; offset < length; ++offset) {
         structure.Byte(static_cast<std::size_t>(offset), random.Byte());
@@ -47,7 +42,7 @@ StructureBuilder RandomStructure(int type, int length, Random& random) {
     return structure;
 }
 
-std::vector<std::uint8_t> RandomBytes(std::size_t size, Random& random) {
+std::vector<std::uint8_t> RandomBytes(std::size_t size, RandomContent& random) {
     std::vector<std::uint8_t> bytes(size);
     std::ranges::generate(bytes, [&] { return random.Byte(); });
     return TableBuilder(3, 8, 0).AddBytes(bytes).RawTable();
@@ -56,7 +51,7 @@ std::vector<std::uint8_t> RandomBytes(std::size_t size, Random& random) {
 class RandomStructuresOfStandard : public testing::TestWithParam<int> {};
 
 TEST_P(RandomStructuresOfStandard, OfEveryLengthAreValidJson) {
-    Random random(static_cast<unsigned>(GetParam()));
+    RandomContent random(static_cast<unsigned>(GetParam()));
     for (int length = 4; length < kLengths; ++length) {
         const std::string text = FirmwareJsonText(TableOf(RandomStructure(GetParam(), length, random)));
         ASSERT_TRUE(Json::accept(text)) << text;
@@ -68,7 +63,7 @@ TEST_P(RandomStructuresOfStandard, OfEveryLengthAreValidJson) {
 
 TEST_P(RandomStructuresOfStandard, HaveEveryFieldTheyAreLongEnoughFor) {
     const auto* description = Inspect::Standard::DescriptionOf(static_cast<std::uint8_t>(GetParam()));
-    Random random(static_cast<unsigned>(GetParam()));
+    RandomContent random(static_cast<unsigned>(GetParam()));
     for (int length = 4; description != nullptr && length < kLengths; ++length) {
         const Json fields =
             FirmwareJson(TableOf(RandomStructure(GetParam(), length, random))).at(0).at("fields");
@@ -81,7 +76,7 @@ TEST_P(RandomStructuresOfStandard, HaveEveryFieldTheyAreLongEnoughFor) {
 }
 
 TEST_P(RandomStructuresOfStandard, CanAllBePrinted) {
-    Random random(static_cast<unsigned>(GetParam()));
+    RandomContent random(static_cast<unsigned>(GetParam()));
     for (int length = 4; length < kLengths; ++length) {
         const std::string text = FirmwareText(TableOf(RandomStructure(GetParam(), length, random)));
         EXPECT_TRUE(text.starts_with("Type " + std::to_string(GetParam())));
@@ -94,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(OtherTypes, RandomStructuresOfStandard, testing::Values
 
 TEST(RandomTablesOfStandard, AreShownWhereverTheyEnd) {
     constexpr int kTables = 2000;
-    Random random(1);
+    RandomContent random(1);
     for (int i = 0; i < kTables; ++i) {
         const auto table = RandomBytes(random.Below(600), random);
         ASSERT_TRUE(Json::accept(FirmwareJsonText(table)));
@@ -103,7 +98,7 @@ TEST(RandomTablesOfStandard, AreShownWhereverTheyEnd) {
 }
 
 TEST(RandomTablesOfStandard, AreGoneThroughToTheLastByte) {
-    Random random(2);
+    RandomContent random(2);
     TableBuilder table(3, 8, 0);
     for (int type = 0; type < kTypes; ++type) {
         table.Add(RandomStructure(type, 4 + static_cast<int>(random.Below(252)), random));
