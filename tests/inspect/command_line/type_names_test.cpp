@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "smbios-inspect/standard/types.h"
-#include "tests/inspect/run_tool.h"
+#include "tests/inspect/completed_words.h"
 
 namespace SMBIOS::Inspect {
 namespace {
@@ -51,17 +51,11 @@ TEST(TypeNames, StandInTheManualWithTheirTypes) {
 }
 
 TEST(TypeNames, AreCompleted) {
-    const std::string completion =
-        Tests::ContentsOf(SMBIOS_SOURCE_DIR "/tools/completion/smbios-inspect.bash");
-    const std::size_t begin = completion.find("_smbios_inspect_types=\"") + 23;
-    std::istringstream words(completion.substr(begin, completion.find('"', begin) - begin));
+    std::vector<std::string> names;
     for (const TypeName& name : TypeNames()) {
-        std::string word;
-        words >> word;
-        EXPECT_EQ(word, name.name);
+        names.emplace_back(name.name);
     }
-    std::string more;
-    EXPECT_FALSE(words >> more) << more;
+    EXPECT_EQ(Tests::CompletedWords("_smbios_inspect_types"), names);
 }
 
 }  // namespace

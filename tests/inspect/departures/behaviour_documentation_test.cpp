@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
 
 #include "smbios-inspect/departures/reasons.h"
-#include "tests/inspect/run_tool.h"
+#include "tests/inspect/made_document.h"
 
 // The tables of docs/behaviour.md about structures are made from the reasons of departures. When they are out
 // of date, run this test with SMBIOS_UPDATE_DOCS=1 in the environment: that writes them anew.
@@ -43,18 +41,13 @@ std::string GeneratedPart() {
 }
 
 TEST(BehaviourDocumentation, HasTheRowsOfTheReasons) {
-    const auto file = std::filesystem::path(SMBIOS_SOURCE_DIR) / "docs" / "behaviour.md";
+    const std::filesystem::path file = DocumentNamed("behaviour.md");
     const std::string text = ContentsOf(file);
     const std::size_t begin = text.find(kBegin);
     const std::size_t end = text.find(kEnd);
     ASSERT_NE(begin, std::string::npos);
     ASSERT_NE(end, std::string::npos);
-    if (std::getenv("SMBIOS_UPDATE_DOCS") != nullptr) {
-        std::ofstream(file, std::ios::binary) << text.substr(0, begin) << GeneratedPart() << text.substr(end);
-        GTEST_SKIP() << "wrote " << file;
-    }
-    EXPECT_EQ(text.substr(begin, end - begin), GeneratedPart())
-        << "run this test with SMBIOS_UPDATE_DOCS=1 to write " << file;
+    ExpectUpToDate(file, text.substr(0, begin) + GeneratedPart() + text.substr(end));
 }
 
 }  // namespace

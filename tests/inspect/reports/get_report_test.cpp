@@ -12,6 +12,7 @@
 
 #include "smbios-inspect/reports/value_keys.h"
 #include "smbios-inspect/standard/types.h"
+#include "tests/inspect/completed_words.h"
 #include "tests/inspect/run_tool.h"
 #include "tests/inspect/standard/standard_support.h"
 #include "tests/support/fake_platform.h"
@@ -200,16 +201,11 @@ TEST(ValueKeys, StandInTheManual) {
 }
 
 TEST(ValueKeys, AreCompleted) {
-    const std::string completion = ContentsOf(SMBIOS_SOURCE_DIR "/tools/completion/smbios-inspect.bash");
-    const std::size_t begin = completion.find("_smbios_inspect_keys=\"") + 22;
-    std::istringstream words(completion.substr(begin, completion.find('"', begin) - begin));
+    std::vector<std::string> names;
     for (const ValueKey& key : ValueKeys()) {
-        std::string word;
-        words >> word;
-        EXPECT_EQ(word, key.name);
+        names.emplace_back(key.name);
     }
-    std::string more;
-    EXPECT_FALSE(words >> more) << more;
+    EXPECT_EQ(CompletedWords("_smbios_inspect_keys"), names);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <set>
 #include <span>
 #include <string>
@@ -11,7 +9,7 @@
 #include "smbios-inspect/records/structure_heading.h"
 #include "smbios-inspect/standard/types.h"
 #include "structures/hex_text.h"
-#include "tests/inspect/run_tool.h"
+#include "tests/inspect/made_document.h"
 
 // docs/json.md is made from the descriptions of the types, but for its first part. When it is out of date,
 // run this test with SMBIOS_UPDATE_DOCS=1 in the environment: that writes it anew.
@@ -113,25 +111,19 @@ std::string GeneratedPart() {
 class JsonDocumentation : public testing::Test {
 protected:
     void SetUp() override {
-        file_ = std::filesystem::path(SMBIOS_SOURCE_DIR) / "docs" / "json.md";
+        file_ = DocumentNamed("json.md");
         const std::string text = ContentsOf(file_);
         const std::size_t begin = text.find(kGeneratedPart);
         ASSERT_NE(begin, std::string::npos) << "no part of fields in " << file_;
         head_ = text.substr(0, begin);
-        generated_ = text.substr(begin);
     }
 
     std::filesystem::path file_;
     std::string head_;
-    std::string generated_;
 };
 
 TEST_F(JsonDocumentation, HasEveryTypeAndItsFields) {
-    if (std::getenv("SMBIOS_UPDATE_DOCS") != nullptr) {
-        std::ofstream(file_, std::ios::binary) << head_ << GeneratedPart();
-        GTEST_SKIP() << "wrote " << file_;
-    }
-    EXPECT_EQ(generated_, GeneratedPart()) << "run this test with SMBIOS_UPDATE_DOCS=1 to write " << file_;
+    ExpectUpToDate(file_, head_ + GeneratedPart());
 }
 
 TEST_F(JsonDocumentation, ExplainsEveryKind) {
