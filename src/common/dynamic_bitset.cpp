@@ -59,6 +59,15 @@ Dynamic_BitSet MakeBitSet(std::uint64_t word, std::size_t bitCount, BitNames nam
     return set;
 }
 
+std::uint64_t WordOf(const Dynamic_BitSet& set) noexcept {
+    constexpr std::size_t kBytes = sizeof(std::uint64_t);
+    std::uint64_t word = 0;
+    for (std::size_t i = 0; i < set.bytes.size() && i < kBytes; ++i) {
+        word |= std::uint64_t{set.bytes[i]} << (8 * i);
+    }
+    return word;
+}
+
 const char* LowestSetBitName(const Dynamic_BitSet& set) {
     for (std::size_t i = 0; i < set.bitCount; ++i) {
         if (set.Test(i)) {

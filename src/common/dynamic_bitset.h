@@ -35,6 +35,9 @@ struct Dynamic_BitSet {
 /// The set of the low `bitCount` bits of `word`, named by `names`.
 [[nodiscard]] Dynamic_BitSet MakeBitSet(std::uint64_t word, std::size_t bitCount, BitNames names);
 
+/// The flags as a number, bit i for flag i; of a set of more than 64 the first ones.
+[[nodiscard]] std::uint64_t WordOf(const Dynamic_BitSet& set) noexcept;
+
 /// The name of the lowest set bit: "the" value of a flag word. nullptr when no bit is set or the lowest set
 /// bit has no reported name, even if higher bits have one. Throws like `Test`.
 [[nodiscard]] const char* LowestSetBitName(const Dynamic_BitSet& set);

@@ -4,11 +4,8 @@
 
 namespace SMBIOS::Structures {
 
-namespace {
-
-constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
-
 std::string_view Trimmed(std::string_view text) noexcept {
+    constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
     const std::size_t last = text.find_last_not_of(kWhiteSpace);
     if (last == std::string_view::npos) {
         return {};
@@ -16,8 +13,6 @@ std::string_view Trimmed(std::string_view text) noexcept {
     const std::size_t first = text.find_first_not_of(kWhiteSpace);
     return text.substr(first, last - first + 1);
 }
-
-}  // namespace
 
 std::string_view FindString(std::uint8_t number, const std::vector<std::string>& strings) noexcept {
     return number == 0 || number > strings.size() ? std::string_view{} : Trimmed(strings[number - 1U]);

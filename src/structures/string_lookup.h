@@ -7,6 +7,9 @@
 
 namespace SMBIOS::Structures {
 
+/// The text without the white space around it.
+[[nodiscard]] std::string_view Trimmed(std::string_view text) noexcept;
+
 /// String `number` of a structure's string set, counted from 1, without the white space around it. Empty for
 /// number 0 and for a number the set does not hold. A view: valid only while the strings are.
 [[nodiscard]] std::string_view FindString(std::uint8_t number,

@@ -12,6 +12,7 @@ namespace {
 using Common::Dynamic_BitSet;
 using Common::LowestSetBitName;
 using Common::MakeBitSet;
+using Common::WordOf;
 
 constexpr const char* kNames[] = {"dontCare", "first", "Unknown", "third"};
 
@@ -119,6 +120,16 @@ TEST(DynamicBitSet, GetBitNameOfUnknownIsNull) {
 
 TEST(DynamicBitSet, GetBitNamePastTheNamesIsNull) {
     EXPECT_EQ(MakeBitSet(0, 8, kNames).GetBitName(4), nullptr);
+}
+
+TEST(DynamicBitSet, WordOfIsWhatTheSetWasMadeOf) {
+    EXPECT_EQ(WordOf(MakeBitSet(0x8001, 16, kNames)), 0x8001U);
+    EXPECT_EQ(WordOf(MakeBitSet(0xFFFF, 12, kNames)), 0x0FFFU);
+    EXPECT_EQ(WordOf(MakeBitSet(0, 0, kNames)), 0U);
+}
+
+TEST(DynamicBitSet, WordOfHasTheFirst64FlagsOfALongerSet) {
+    EXPECT_EQ(WordOf(MakeBitSet(0x8000000000000003U, 72, kNames)), 0x8000000000000003U);
 }
 
 TEST(DynamicBitSet, LowestSetBitNameIsTheNameOfTheLowestSetBit) {

@@ -40,11 +40,7 @@ LibraryValue ValueOf(std::string_view text) {
 }
 
 LibraryValue ValueOf(const Common::Dynamic_BitSet& flags) {
-    std::uint64_t bits = 0;
-    for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
-        bits |= std::uint64_t{flags.Test(bit)} << bit;
-    }
-    return bits;
+    return WordOf(flags);
 }
 
 template <class Part>

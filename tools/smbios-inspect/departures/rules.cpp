@@ -7,10 +7,12 @@
 
 #include "smbios-inspect/departures/standard_field.h"
 #include "smbios-inspect/standard/forms.h"
+#include "structures/string_lookup.h"
 
 namespace SMBIOS::Inspect::Departures {
 
 using Standard::Value;
+using Structures::Trimmed;
 
 namespace {
 
@@ -167,13 +169,6 @@ bool HaveSameLetters(std::string_view one, std::string_view other) noexcept {
         other.remove_prefix(1);
     }
     return one.empty() && other.empty();
-}
-
-std::string_view Trimmed(std::string_view text) noexcept {
-    constexpr std::string_view kBlanks = " \t\n\v\f\r";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 std::optional<std::uint64_t> NumberIn(std::string_view text) noexcept {

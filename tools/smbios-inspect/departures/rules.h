@@ -62,9 +62,6 @@ namespace SMBIOS::Inspect::Departures {
 /// Whether two texts are made of the same letters and digits.
 [[nodiscard]] bool HaveSameLetters(std::string_view one, std::string_view other) noexcept;
 
-/// The text without the blanks around it.
-[[nodiscard]] std::string_view Trimmed(std::string_view text) noexcept;
-
 /// "0x00AB" or "171" as a number; none for any other text.
 [[nodiscard]] std::optional<std::uint64_t> NumberIn(std::string_view text) noexcept;
 

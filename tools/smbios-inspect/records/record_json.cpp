@@ -9,23 +9,10 @@ namespace SMBIOS::Inspect {
 
 using Structures::Type3::Types::ContainedElements;
 
-namespace {
-
-/// The flag word; no field has more than 64 bits.
-std::uint64_t ValueOf(const Common::Dynamic_BitSet& flags) noexcept {
-    std::uint64_t value = 0;
-    for (std::size_t i = 0; i < flags.bytes.size(); ++i) {
-        value |= std::uint64_t{flags.bytes[i]} << (8 * i);
-    }
-    return value;
-}
-
-}  // namespace
-
 void RecordJson::Write(JsonWriter& json, const Common::Dynamic_BitSet& flags) {
     json.BeginObject();
     json.Member("bitCount", flags.GetBitCount());
-    const std::uint64_t value = ValueOf(flags);
+    const std::uint64_t value = WordOf(flags);
     json.Member("value", value);
     json.Name("set");
     json.BeginArray();
