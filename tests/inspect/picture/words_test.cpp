@@ -12,11 +12,6 @@ TEST(PictureWords, JoinWhatIsNotEmpty) {
     EXPECT_EQ(FirstSaid({"", ""}), "");
 }
 
-TEST(PictureWords, PrefixNothingToNothing) {
-    EXPECT_EQ(Prefixed("version ", "2"), "version 2");
-    EXPECT_EQ(Prefixed("version ", ""), "");
-}
-
 TEST(PictureWords, SetOffThousands) {
     EXPECT_EQ(CountText(0), "0");
     EXPECT_EQ(CountText(999), "999");

@@ -28,12 +28,6 @@ std::string HandleText(const Side& side, Index index) {
     return Standard::HexText(side.table.HandleOf(index), kDigits);
 }
 
-/// Firmware pads texts with blanks.
-std::string_view WithoutPadding(std::string_view text) noexcept {
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return WithoutTrailingBlanks(text);
-}
-
 bool SharesItsName(const Side& side, Index index) {
     return side.sharedNames.contains(side.keys[index].name);
 }

@@ -141,6 +141,10 @@ std::string_view WithoutTrailingBlanks(std::string_view text) noexcept {
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
+std::string_view WithoutPadding(std::string_view text) noexcept {
+    return WithoutTrailingBlanks(WithoutLeadingBlanks(text));
+}
+
 std::vector<std::string> WrapWords(std::string_view text, std::size_t width) {
     std::vector<std::string> lines;
     text = WithoutTrailingBlanks(text);

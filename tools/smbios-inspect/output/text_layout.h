@@ -28,6 +28,9 @@ void AppendPrintable(std::string_view text, std::string& line);
 /// `text` up to its last character that is no blank.
 [[nodiscard]] std::string_view WithoutTrailingBlanks(std::string_view text) noexcept;
 
+/// `text` from its first character that is no blank up to its last one: firmware pads texts.
+[[nodiscard]] std::string_view WithoutPadding(std::string_view text) noexcept;
+
 /// Printable text cut between words into lines of at most `width` columns, 0 for no limit. A longer word has
 /// a line of its own. There is at least one line, and none ends with a blank.
 [[nodiscard]] std::vector<std::string> WrapWords(std::string_view text, std::size_t width);

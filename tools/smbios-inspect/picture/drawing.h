@@ -18,7 +18,6 @@ struct Rectangle {
     int height = 0;
 
     [[nodiscard]] constexpr int Right() const noexcept { return x + width; }
-    [[nodiscard]] constexpr int Bottom() const noexcept { return y + height; }
 
     /// So much smaller on each side.
     [[nodiscard]] constexpr Rectangle Inset(int horizontal, int vertical) const noexcept {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "smbios-inspect/output/phrases.h"
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/picture/words.h"
 

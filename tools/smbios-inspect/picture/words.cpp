@@ -1,20 +1,11 @@
 #include "smbios-inspect/picture/words.h"
 
+#include "smbios-inspect/output/phrases.h"
+
 namespace SMBIOS::Inspect::Picture {
 
 std::string Dotted(const std::vector<std::string>& texts) {
-    constexpr std::string_view kDot = " \xC2\xB7 ";  // U+00B7
-    std::string dotted;
-    for (const std::string& text : texts) {
-        if (!text.empty()) {
-            dotted.append(dotted.empty() ? std::string_view() : kDot).append(text);
-        }
-    }
-    return dotted;
-}
-
-std::string Prefixed(std::string_view prefix, const std::string& text) {
-    return text.empty() ? std::string() : std::string(prefix) + text;
+    return Joined(texts, " \xC2\xB7 ");  // U+00B7
 }
 
 std::string FirstSaid(const std::vector<std::string>& texts) {

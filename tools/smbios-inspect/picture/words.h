@@ -11,9 +11,6 @@ namespace SMBIOS::Inspect::Picture {
 /// The texts that are not empty, with a middle dot between each two.
 [[nodiscard]] std::string Dotted(const std::vector<std::string>& texts);
 
-/// `text` behind `prefix`; empty when it is.
-[[nodiscard]] std::string Prefixed(std::string_view prefix, const std::string& text);
-
 /// The first text that is not empty.
 [[nodiscard]] std::string FirstSaid(const std::vector<std::string>& texts);
 

@@ -1,12 +1,12 @@
 #include "smbios-inspect/reports/summary_text.h"
 
-#include <algorithm>
 #include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "smbios-inspect/output/item_printer.h"
+#include "smbios-inspect/output/phrases.h"
 #include "smbios-inspect/output/text_layout.h"
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/reports/table_end.h"
@@ -17,22 +17,8 @@ namespace {
 
 using Items = std::vector<ItemParts>;
 
-/// Texts of firmware often have blanks around them.
-std::string Trimmed(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return std::string(WithoutTrailingBlanks(text));
-}
-
-std::string Joined(const std::vector<std::string>& texts, std::string_view separator) {
-    std::string joined;
-    for (const std::string& text : texts) {
-        joined += (joined.empty() || text.empty() ? std::string() : std::string(separator)) + text;
-    }
-    return joined;
-}
-
-std::string Prefixed(std::string_view prefix, const std::string& text) {
-    return text.empty() ? std::string() : std::string(prefix) + text;
+std::string Unpadded(std::string_view text) {
+    return std::string(WithoutPadding(text));
 }
 
 /// "1 core", "12 cores".
@@ -54,16 +40,16 @@ std::string Remark(std::size_t count, std::string_view text) {
 }
 
 ItemParts PartsOf(const FirmwareFacts& firmware) {
-    return {Joined({Trimmed(firmware.vendor), Trimmed(firmware.version)}, " "),
+    return {Joined({Unpadded(firmware.vendor), Unpadded(firmware.version)}, " "),
             Prefixed("release ", firmware.release),
-            Trimmed(firmware.releaseDate),
+            Unpadded(firmware.releaseDate),
             SizeText("ROM ", firmware.romSize)};
 }
 
 ItemParts PartsOf(const ProductFacts& product) {
-    return {Joined({Trimmed(product.manufacturer), Trimmed(product.name)}, " "),
-            Prefixed("version ", Trimmed(product.version)),
-            Prefixed("serial number ", Trimmed(product.serialNumber))};
+    return {Joined({Unpadded(product.manufacturer), Unpadded(product.name)}, " "),
+            Prefixed("version ", Unpadded(product.version)),
+            Prefixed("serial number ", Unpadded(product.serialNumber))};
 }
 
 ItemParts PartsOf(const SystemFacts& system) {
@@ -88,7 +74,7 @@ ItemParts PartsOf(const ProcessorFacts& processor) {
     if (!processor.isPopulated) {
         return {"empty socket"};
     }
-    const std::string name = Trimmed(processor.name);
+    const std::string name = Unpadded(processor.name);
     return {name.empty() ? "processor without a name" : name,
             CoresText(processor),
             Counted(processor.threads, "thread"),
