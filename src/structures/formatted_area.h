@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <utility>
 
 namespace SMBIOS::Structures {
 
@@ -29,20 +30,20 @@ public:
         return offset < bytes_.size() ? bytes_[offset] : std::uint8_t{0};
     }
     [[nodiscard]] std::uint16_t Word(std::size_t offset) const noexcept {
-        return static_cast<std::uint16_t>(LittleEndian(offset, 2));
+        return static_cast<std::uint16_t>(LittleEndian(offset, std::make_index_sequence<2>()));
     }
     [[nodiscard]] std::uint32_t Dword(std::size_t offset) const noexcept {
-        return static_cast<std::uint32_t>(LittleEndian(offset, 4));
+        return static_cast<std::uint32_t>(LittleEndian(offset, std::make_index_sequence<4>()));
     }
-    [[nodiscard]] std::uint64_t Qword(std::size_t offset) const noexcept { return LittleEndian(offset, 8); }
+    [[nodiscard]] std::uint64_t Qword(std::size_t offset) const noexcept {
+        return LittleEndian(offset, std::make_index_sequence<8>());
+    }
 
     /// `Count` bytes from `offset` on.
     template <std::size_t Count>
     [[nodiscard]] std::array<std::uint8_t, Count> Bytes(std::size_t offset) const noexcept {
         std::array<std::uint8_t, Count> bytes{};
-        for (std::size_t i = 0; i < Count; ++i) {
-            bytes[i] = Byte(offset + i);
-        }
+        std::ranges::copy(ExistingBytes(offset, Count), bytes.begin());
         return bytes;
     }
 
@@ -54,12 +55,15 @@ public:
     }
 
 private:
-    [[nodiscard]] std::uint64_t LittleEndian(std::size_t offset, std::size_t width) const noexcept {
-        std::uint64_t value = 0;
-        for (std::size_t i = 0; i < width; ++i) {
-            value |= std::uint64_t{Byte(offset + i)} << (8 * i);
+    /// Checked once where all bytes are there, which makes it a single load.
+    template <std::size_t... Index>
+    [[nodiscard]] std::uint64_t LittleEndian(std::size_t offset,
+                                             std::index_sequence<Index...>) const noexcept {
+        const auto bytes = ExistingBytes(offset, sizeof...(Index));
+        if (bytes.size() == sizeof...(Index)) {
+            return ((std::uint64_t{bytes[Index]} << (8 * Index)) | ...);
         }
-        return value;
+        return ((std::uint64_t{Byte(offset + Index)} << (8 * Index)) | ...);
     }
 
     std::span<const std::uint8_t> bytes_;
