@@ -19,14 +19,14 @@ using Standard::ValueKind;
 namespace {
 
 Index TargetOf(const Side& side, const Plain& plain) noexcept {
-    const auto* const handle = std::get_if<std::uint64_t>(&plain);
-    return handle == nullptr ? kNoStructure : side.table.Find(static_cast<std::uint16_t>(*handle));
+    const auto handle = plain.Number();
+    return !handle ? kNoStructure : side.table.Find(static_cast<std::uint16_t>(*handle));
 }
 
 /// "0x0040 (Physical Memory Array)": a handle's text, which may have a type already, and what it leads to.
-std::string HandleText(const Side& side, const Plain& plain, const std::string& text) {
+std::string HandleText(const Side& side, const Plain& plain, std::string text) {
     constexpr std::size_t kLongestName = 60;
-    if (!std::holds_alternative<std::uint64_t>(plain)) {
+    if (!plain.Number()) {
         return text;
     }
     const Index target = TargetOf(side, plain);
@@ -51,13 +51,14 @@ template <class PartnerOf>
 std::vector<ItemText> ItemsOf(const Side& side, const std::optional<KeptField>& field, PartnerOf partnerOf) {
     std::vector<ItemText> items;
     for (const Item& item : field ? field->value.items : std::vector<Item>()) {
+        const std::string text(item.text);
         if (field->kind == ValueKind::handleList) {
             const Index target = TargetOf(side, item.plain);
-            const std::string kind = item.text.substr(std::min(item.text.find(' '), item.text.size()));
+            const std::string kind = text.substr(std::min(text.find(' '), text.size()));
             items.push_back({target == kNoStructure ? kind : partnerOf(target) + kind,
-                             HandleText(side, item.plain, item.text)});
+                             HandleText(side, item.plain, text)});
         } else {
-            items.push_back({item.text, item.text});
+            items.push_back({text, text});
         }
     }
     return items;
@@ -101,8 +102,10 @@ std::string LineOf(const Side& side, const std::optional<KeptField>& field) {
         return "(absent)";
     }
     const Value& value = field->value;
-    std::string line =
-        field->kind == ValueKind::handle ? HandleText(side, value.plain, value.text) : value.text;
+    std::string line(value.text);
+    if (field->kind == ValueKind::handle) {
+        line = HandleText(side, value.plain, std::move(line));
+    }
     for (std::size_t i = 0; !value.isInLine && i < value.items.size(); ++i) {
         line.append(line.empty() ? "" : ", ") += value.items[i].text;
     }
@@ -113,10 +116,10 @@ std::string LineOf(const Side& side, const std::optional<KeptField>& field) {
 /// What tells a value from another one that reads the same: its number, or its bytes.
 std::string DetailOf(const std::optional<KeptField>& field) {
     const Plain plain = field ? field->value.plain : Plain();
-    if (const auto* const number = std::get_if<std::uint64_t>(&plain)) {
+    if (const auto number = plain.Number()) {
         return " (" + std::to_string(*number) + ")";
     }
-    if (const auto* const text = std::get_if<std::string>(&plain)) {
+    if (const auto text = plain.Text()) {
         return " (" +
                Standard::BytesText(
                    std::span(reinterpret_cast<const std::uint8_t*>(text->data()), text->size())) +

@@ -47,9 +47,9 @@ std::string_view BehindHandle(std::string_view text) noexcept {
 std::optional<bool> IsSameTarget(const Comparison& comparison,
                                  const Standard::Plain& before,
                                  const Standard::Plain& after) noexcept {
-    const auto* const handle = std::get_if<std::uint64_t>(&before);
-    const auto* const other = std::get_if<std::uint64_t>(&after);
-    if (handle == nullptr || other == nullptr) {
+    const auto handle = before.Number();
+    const auto other = after.Number();
+    if (!handle || !other) {
         return std::nullopt;
     }
     return comparison.LeadToTheSame(static_cast<std::uint16_t>(*handle), static_cast<std::uint16_t>(*other));

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <variant>
 
 #include "smbios-inspect/standard/decode.h"
 #include "smbios-inspect/standard/types.h"
@@ -54,7 +53,7 @@ public:
 
 private:
     void Append(std::size_t offset, const Plain& plain) {
-        if (const auto* const handle = std::get_if<std::uint64_t>(&plain)) {
+        if (const auto handle = plain.Number()) {
             references_.push_back({static_cast<std::uint16_t>(offset), static_cast<std::uint16_t>(*handle)});
         }
     }

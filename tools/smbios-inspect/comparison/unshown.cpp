@@ -127,7 +127,7 @@ FieldChange BytesChange(std::span<const std::uint8_t> before,
 std::vector<std::string_view> StringsNotShown(const DecodedStructure& each) {
     std::set<std::string_view> shown;
     const auto addText = [&](const Standard::Plain& plain) {
-        if (const auto* const text = std::get_if<std::string>(&plain)) {
+        if (const auto text = plain.Text()) {
             shown.insert(*text);
         }
     };
@@ -145,7 +145,7 @@ std::vector<std::string_view> StringsNotShown(const DecodedStructure& each) {
 KeptField StringsField(const std::vector<std::string_view>& strings) {
     std::vector<Item> items;
     for (const std::string_view text : strings) {
-        items.push_back({.plain = std::string(text), .text = std::string(text)});
+        items.push_back({.plain = text, .text = text});
     }
     const std::size_t count = strings.size();
     return {.name = "strings",

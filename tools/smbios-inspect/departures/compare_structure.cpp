@@ -5,10 +5,12 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "manager/structure_factory.h"
 #include "smbios-inspect/output/units.h"
+#include "smbios-inspect/standard/forms.h"
 #include "smbios-inspect/standard/types.h"
 
 namespace SMBIOS::Inspect::Departures {
@@ -84,6 +86,9 @@ public:
 
 private:
     void CompareField(std::size_t index, const Pair& pair) {
+        if (AgreeAtOnce(fields_[index].value, pair)) {
+            return;
+        }
         const std::optional<Value> standard = ReadStandardField(structure_, pair.standard);
         const Comparison comparison{structure_,
                                     library_.decoder,
@@ -100,6 +105,16 @@ private:
         }
     }
 
+    /// What by far the most fields are: a number that both take from the bytes as it stands. The standard's
+    /// words for it need not be made then.
+    [[nodiscard]] bool AgreeAtOnce(const LibraryValue& value, const Pair& pair) const {
+        const auto* const number = std::get_if<std::uint64_t>(&value);
+        const StandardField& standard = pair.standard;
+        return number != nullptr && pair.rule.agree == AgreeByKind && !standard.isBehindGroup &&
+               standard.IsWithin(structure_) && Standard::IsNumberAsItStands(standard.row->form) &&
+               Standard::Reading{structure_, *standard.row, 0}.Raw() == *number;
+    }
+
     /// The raw bytes are the structure's.
     void CompareBytes() {
         if (!std::ranges::equal(frame_.rawBytes, structure_.bytes)) {
@@ -112,7 +127,7 @@ private:
         if (HasOtherStrings()) {
             std::vector<Standard::Item> items;
             for (const std::string_view text : structure_.strings) {
-                items.push_back({std::string(text), std::string(text)});
+                items.push_back({text, text});
             }
             const Value strings = Standard::List(items.size(), "", std::move(items));
             Tell(IndexOf("strings"), nullptr, &strings, ReasonId::cutting);

@@ -18,7 +18,7 @@ bool CapacityAgrees(const Comparison& comparison) {
         return AgreeByKind(comparison);
     }
     const bool isInBytes = comparison.Raw() == 0;
-    return comparison.standard->plain == Standard::Plain(isInBytes ? *capacity : *capacity * 1024);
+    return comparison.standard->plain.Number() == (isInBytes ? *capacity : *capacity * 1024);
 }
 
 constexpr Join kMemoryArray[] = {
@@ -107,8 +107,7 @@ bool AddressAgrees(const Comparison& comparison) {
         return AgreeByKind(comparison);
     }
     const bool isInBytes = comparison.Raw() == kIsExtended;
-    return comparison.standard->plain ==
-           Standard::Plain(isInBytes ? *address : *address * 1024 + ByteOfKilobyte);
+    return comparison.standard->plain.Number() == (isInBytes ? *address : *address * 1024 + ByteOfKilobyte);
 }
 
 bool OneIsExtended(const Comparison& comparison) {

@@ -28,7 +28,7 @@ bool SerialNumberAgrees(const Comparison& comparison) {
     }
     const auto number = comparison.Other("sbdsSerialNumber");
     const auto given = NumberIn(TextOf(comparison.library.value));
-    return number ? given && Standard::Plain(*given) == number->plain : !comparison.HasLibraryValue();
+    return number ? given && given == number->plain.Number() : !comparison.HasLibraryValue();
 }
 
 bool ChemistryAgrees(const Comparison& comparison) {

@@ -90,8 +90,7 @@ bool SramTypesAgree(const Comparison& comparison) {
 }
 
 bool IsZero(const Comparison& comparison) {
-    return !comparison.HasLibraryValue() && comparison.standard &&
-           comparison.standard->plain == Standard::Plain(std::uint64_t{0});
+    return !comparison.HasLibraryValue() && comparison.standard && comparison.standard->plain.Number() == 0;
 }
 
 /// The wide field is not read, or not there.

@@ -99,7 +99,7 @@ bool ContainedHandlesAgree(const Comparison& comparison) {
         return !handles && (!comparison.standard || HasNothing(*comparison.standard));
     }
     const auto isSame = [](std::uint16_t handle, const Standard::Item& item) {
-        return item.plain == Standard::Plain(std::uint64_t{handle});
+        return item.plain.Number() == handle;
     };
     return comparison.Raw() == handles->size() &&
            std::ranges::equal(*handles, comparison.standard->items, isSame);

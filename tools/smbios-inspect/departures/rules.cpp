@@ -32,12 +32,12 @@ double FactorOf(std::string_view unit) {
 }
 
 bool NumberAgrees(std::uint64_t number, const Value& value, const Comparison& comparison) {
-    if (const auto* plain = std::get_if<std::uint64_t>(&value.plain)) {
+    if (const auto plain = value.plain.Number()) {
         return number == *plain;
     }
     // Handed on as it stands, though it is a marker: callers look it up.
     const Standard::Reading reading{comparison.structure, *comparison.row, 0};
-    return std::holds_alternative<std::monostate>(value.plain) && number == reading.Raw();
+    return value.plain.IsNothing() && number == reading.Raw();
 }
 
 /// The library's fractions are floats.
@@ -46,23 +46,19 @@ bool FractionAgrees(double number, const Value& value, std::string_view unit) {
         const double expected = static_cast<double>(plain) * FactorOf(unit);
         return std::abs(number - expected) <= 1e-6 * std::abs(expected) + 1e-9;
     };
-    if (const auto* plain = std::get_if<std::uint64_t>(&value.plain)) {
+    if (const auto plain = value.plain.Number()) {
         return isNear(*plain);
     }
-    const auto* plain = std::get_if<std::int64_t>(&value.plain);
-    return plain != nullptr && isNear(*plain);
+    const auto plain = value.plain.SignedNumber();
+    return plain && isNear(*plain);
 }
 
 bool TextAgrees(std::string_view text, const Value& value) {
-    if (const auto* plain = std::get_if<std::string>(&value.plain)) {
+    if (const auto plain = value.plain.Text()) {
         return text == Trimmed(*plain);
     }
-    const auto* plain = std::get_if<std::uint64_t>(&value.plain);
-    return plain != nullptr && NumberIn(text) == *plain;
-}
-
-bool IsMarker(const Value& value) {
-    return std::holds_alternative<std::monostate>(value.plain);
+    const auto plain = value.plain.Number();
+    return plain && NumberIn(text) == plain;
 }
 
 }  // namespace
@@ -97,7 +93,7 @@ bool AgreeByKind(const Comparison& comparison) {
 }
 
 bool AgreeStrictly(const Comparison& comparison) {
-    const bool isMarker = comparison.standard && IsMarker(*comparison.standard);
+    const bool isMarker = comparison.standard && comparison.standard->plain.IsNothing();
     return isMarker ? !comparison.HasLibraryValue() : AgreeByKind(comparison);
 }
 
@@ -130,8 +126,7 @@ bool AgreeInKilobytes(const Comparison& comparison) {
     if (!comparison.standard || kilobytes == nullptr) {
         return AgreeByKind(comparison);
     }
-    const auto* bytes = std::get_if<std::uint64_t>(&comparison.standard->plain);
-    return bytes != nullptr && *bytes == *kilobytes * 1024;
+    return comparison.standard->plain.Number() == *kilobytes * 1024;
 }
 
 bool AgreeAsHexOfBytes(const Comparison& comparison) {
@@ -143,14 +138,13 @@ bool AgreeAsHexOfBytes(const Comparison& comparison) {
 }
 
 bool HasNothing(const Value& value) {
-    if (IsMarker(value)) {
+    if (value.plain.IsNothing()) {
         return true;
     }
-    if (const auto* text = std::get_if<std::string>(&value.plain)) {
+    if (const auto text = value.plain.Text()) {
         return Trimmed(*text).empty();
     }
-    const auto* number = std::get_if<std::uint64_t>(&value.plain);
-    const bool isEmptyList = value.isList && value.items.empty() && number != nullptr && *number == 0;
+    const bool isEmptyList = value.isList && value.items.empty() && value.plain.Number() == 0;
     return isEmptyList || (value.hasWords && IsMeaningless(value.text));
 }
 

@@ -64,7 +64,7 @@ std::optional<Value> ReadStandardField(const Structure& structure, const Standar
         Standard::VisitFields(structure, keeper);
         return keeper.Take();
     }
-    if (field.row->offset + field.row->width > structure.bytes.size()) {
+    if (!field.IsWithin(structure)) {
         return std::nullopt;
     }
     return field.row->form.read({structure, *field.row, 0});

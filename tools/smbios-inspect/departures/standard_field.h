@@ -12,6 +12,11 @@ namespace SMBIOS::Inspect::Departures {
 struct StandardField {
     const Standard::FieldRow* row = nullptr;  ///< null when there is none
     bool isBehindGroup = false;               ///< where it stands depends on the structure
+
+    /// Whether the structure is long enough for a field that is not behind a group.
+    [[nodiscard]] bool IsWithin(const Standard::Structure& structure) const noexcept {
+        return row->offset + row->width <= structure.bytes.size();
+    }
 };
 
 /// The field that programs know by this name; the structure's own ones only, none of its lists.

@@ -48,11 +48,6 @@ bool SaysNothing(const std::string& text) {
     return std::ranges::binary_search(kNothings, LowerCase(text));
 }
 
-std::optional<std::uint64_t> NumberIn(const Standard::Plain& plain) noexcept {
-    const std::uint64_t* const number = std::get_if<std::uint64_t>(&plain);
-    return number == nullptr ? std::nullopt : std::optional(*number);
-}
-
 std::string WithSingleBlanks(std::string_view text) {
     std::string single;
     for (const char character : text) {
@@ -123,7 +118,7 @@ std::string Drawable(std::string_view text) {
 }
 
 void Fields::Add(const Standard::Field& field) {
-    said_.push_back({field.name, Drawable(field.value.text), NumberIn(field.value.plain)});
+    said_.push_back({field.name, Drawable(field.value.text), field.value.plain.Number()});
 }
 
 const Fields::Said* Fields::Find(std::string_view name) const noexcept {

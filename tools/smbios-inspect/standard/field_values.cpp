@@ -1,7 +1,6 @@
 #include "smbios-inspect/standard/field_values.h"
 
 #include <algorithm>
-#include <variant>
 
 #include "smbios-inspect/standard/decode.h"
 #include "smbios-inspect/standard/forms.h"
@@ -11,18 +10,13 @@ namespace SMBIOS::Inspect::Standard {
 namespace {
 
 std::string TextOfPlain(const Plain& plain) {
-    return std::visit(
-        [](const auto& value) -> std::string {
-            using Type = std::decay_t<decltype(value)>;
-            if constexpr (std::is_same_v<Type, std::monostate>) {
-                return {};
-            } else if constexpr (std::is_same_v<Type, std::string>) {
-                return value;
-            } else {
-                return std::to_string(value);
-            }
-        },
-        plain);
+    if (const auto number = plain.Number()) {
+        return std::to_string(*number);
+    }
+    if (const auto number = plain.SignedNumber()) {
+        return std::to_string(*number);
+    }
+    return std::string(plain.Text().value_or(""));
 }
 
 }  // namespace
@@ -44,10 +38,10 @@ const FieldValues::NamedValue* FieldValues::Find(std::string_view name) const no
 
 std::string FieldValues::TextOf(std::string_view name) const {
     const NamedValue* const field = Find(name);
-    if (field == nullptr || std::holds_alternative<std::monostate>(field->value.plain)) {
+    if (field == nullptr || field->value.plain.IsNothing()) {
         return {};
     }
-    return field->kind == ValueKind::code ? field->value.text : TextOfPlain(field->value.plain);
+    return field->kind == ValueKind::code ? std::string(field->value.text) : TextOfPlain(field->value.plain);
 }
 
 std::string FieldValues::TellingTextOf(std::string_view name) const {
@@ -58,8 +52,7 @@ std::string FieldValues::TellingTextOf(std::string_view name) const {
 
 std::optional<std::uint64_t> FieldValues::NumberOf(std::string_view name) const {
     const NamedValue* const field = Find(name);
-    const auto* const number = field == nullptr ? nullptr : std::get_if<std::uint64_t>(&field->value.plain);
-    return number == nullptr ? std::nullopt : std::optional(*number);
+    return field == nullptr ? std::nullopt : field->value.plain.Number();
 }
 
 }  // namespace SMBIOS::Inspect::Standard

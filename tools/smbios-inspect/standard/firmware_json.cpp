@@ -10,19 +10,19 @@ namespace SMBIOS::Inspect::Standard {
 namespace {
 
 void WritePlain(const Plain& plain, JsonWriter& json) {
-    std::visit(
-        [&json](const auto& value) {
-            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::monostate>) {
-                json.Null();
-            } else {
-                json.Value(value);
-            }
-        },
-        plain);
+    if (const auto number = plain.Number()) {
+        json.Value(*number);
+    } else if (const auto signedNumber = plain.SignedNumber()) {
+        json.Value(*signedNumber);
+    } else if (const auto text = plain.Text()) {
+        json.Value(*text);
+    } else {
+        json.Null();
+    }
 }
 
 void WriteItem(const Item& item, JsonWriter& json) {
-    if (std::holds_alternative<std::monostate>(item.plain)) {
+    if (item.plain.IsNothing()) {
         json.Value(item.text);
     } else {
         WritePlain(item.plain, json);

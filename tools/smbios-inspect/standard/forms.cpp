@@ -17,14 +17,6 @@ namespace {
 constexpr std::uint64_t kFirstOemCode = 0x80;
 constexpr std::uint64_t kUnknownWord = 0x8000;
 
-/// The words a number stands for, as a value without that number.
-std::optional<Value> InsteadOf(std::uint64_t number, WordList words) {
-    if (const auto text = words.Find(number)) {
-        return Nothing(*text);
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 std::uint64_t Reading::Raw() const noexcept {
@@ -43,8 +35,10 @@ Value ReadString(const Reading& reading) {
 Value ReadNumber(const Reading& reading) {
     const std::uint64_t number = reading.Raw();
     const Form& form = reading.row.form;
-    return InsteadOf(number, form.words)
-        .value_or(Number(number, std::to_string(number) + std::string(form.mark)));
+    if (const auto words = form.words.Find(number)) {
+        return Nothing(*words);
+    }
+    return Number(number, std::to_string(number).append(form.mark));
 }
 
 Value ReadFraction(const Reading& reading) {
@@ -53,8 +47,7 @@ Value ReadFraction(const Reading& reading) {
     if (number == kUnknownWord) {
         return Nothing(kUnknown);
     }
-    const std::string text = DecimalText(static_cast<std::int64_t>(number), form.digits);
-    return Number(number, text + std::string(form.mark));
+    return Number(number, DecimalText(static_cast<std::int64_t>(number), form.digits).append(form.mark));
 }
 
 Value ReadSigned(const Reading& reading) {
@@ -64,13 +57,15 @@ Value ReadSigned(const Reading& reading) {
         return Nothing(kUnknown);
     }
     const auto number = static_cast<std::int16_t>(raw);
-    return SignedNumber(number, DecimalText(number, form.digits) + std::string(form.mark));
+    return SignedNumber(number, DecimalText(number, form.digits).append(form.mark));
 }
 
 Value ReadHex(const Reading& reading) {
     const std::uint64_t number = reading.Raw();
-    return InsteadOf(number, reading.row.form.words)
-        .value_or(Number(number, HexText(number, 2 * reading.row.width)));
+    if (const auto words = reading.row.form.words.Find(number)) {
+        return Nothing(*words);
+    }
+    return Number(number, HexText(number, 2 * reading.row.width));
 }
 
 Value ReadHandle(const Reading& reading) {
@@ -85,14 +80,20 @@ Value ReadCode(const Reading& reading) {
 Value ReadCodeOrOem(const Reading& reading) {
     const std::uint64_t code = reading.Raw();
     const auto words = reading.row.form.words.Find(code);
-    return Words(code, std::string(words.value_or(code < kFirstOemCode ? kOutOfSpec : "OEM-specific")));
+    return Words(code, words.value_or(code < kFirstOemCode ? kOutOfSpec : "OEM-specific"));
 }
 
 Value ReadFlags(const Reading& reading) {
     const std::uint64_t bits = reading.Raw();
     std::vector<Item> names = NamesOfBits(reading.row.form.words, bits);
-    std::string text = names.empty() ? "None" : "";
-    return List(bits, std::move(text), std::move(names));
+    const char* const text = names.empty() ? "None" : "";
+    return List(bits, text, std::move(names));
+}
+
+bool IsNumberAsItStands(const Form& form) noexcept {
+    constexpr Value (*kReaders[])(const Reading&) = {
+        ReadNumber, ReadHex, ReadHandle, ReadCode, ReadCodeOrOem, ReadFlags, ReadFlagsInLine};
+    return std::ranges::find(kReaders, form.read) != std::end(kReaders);
 }
 
 Value ReadFlagsInLine(const Reading& reading) {
@@ -142,8 +143,13 @@ Value ReadHandleList(const Reading& reading) {
 
 Value ReadByteSize(const Reading& reading) {
     const std::uint64_t bytes = reading.Raw();
-    return bytes == 0 ? Words(bytes, "None")
-                      : InsteadOf(bytes, reading.row.form.words).value_or(SizeInBytes(bytes));
+    if (bytes == 0) {
+        return Words(bytes, "None");
+    }
+    if (const auto words = reading.row.form.words.Find(bytes)) {
+        return Nothing(*words);
+    }
+    return SizeInBytes(bytes);
 }
 
 Value ReadRelease(const Reading& reading) {
@@ -172,22 +178,23 @@ Value StringNumber(const Structure& structure, std::size_t number) {
     if (number > structure.strings.size()) {
         return Nothing("<BAD INDEX>");
     }
-    return Text(std::string(structure.strings[number - 1]));
+    return Text(structure.strings[number - 1]);
 }
 
-std::string WordsFor(WordList words, std::uint64_t code) {
-    return std::string(words.Find(code).value_or(kOutOfSpec));
+std::string_view WordsFor(WordList words, std::uint64_t code) {
+    return words.Find(code).value_or(kOutOfSpec);
 }
 
-std::string TypeWords(std::uint8_t type) {
+std::string_view TypeWords(std::uint8_t type) {
     return type < kFirstOemCode ? WordsFor(kTypeWords, type) : "OEM-specific";
 }
 
 std::vector<Item> NamesOfBits(WordList names, std::uint64_t bits) {
     std::vector<Item> items;
+    items.reserve(static_cast<std::size_t>(std::popcount(bits)));
     for (const auto& [bit, name] : names) {
         if ((bits >> bit & 1U) != 0) {
-            items.push_back({.text = std::string(name)});
+            items.push_back({.text = name});
         }
     }
     return items;

@@ -37,6 +37,9 @@ inline constexpr auto kNotProvidedIfWordFull = WordsOf({{0xFFFF, "Not Provided"}
 [[nodiscard]] Value ReadRelease(const Reading& reading);
 [[nodiscard]] Value ReadBusAddress(const Reading& reading);
 
+/// Whether a value of this form is the number that its bytes are, where it is one.
+[[nodiscard]] bool IsNumberAsItStands(const Form& form) noexcept;
+
 // What only one type has: a value of each kind by a reading function.
 [[nodiscard]] constexpr Form TextBy(Value (*read)(const Reading&)) {
     return {.read = read, .kind = ValueKind::text};
@@ -152,10 +155,10 @@ inline constexpr auto kNotProvidedIfWordFull = WordsOf({{0xFFFF, "Not Provided"}
 [[nodiscard]] Value StringNumber(const Structure& structure, std::size_t number);
 
 /// The code's words; "<OUT OF SPEC>" when the standard has none.
-[[nodiscard]] std::string WordsFor(WordList words, std::uint64_t code);
+[[nodiscard]] std::string_view WordsFor(WordList words, std::uint64_t code);
 
 /// What a structure of this type is called by another one.
-[[nodiscard]] std::string TypeWords(std::uint8_t type);
+[[nodiscard]] std::string_view TypeWords(std::uint8_t type);
 
 /// The names of the bits set, in ascending order.
 [[nodiscard]] std::vector<Item> NamesOfBits(WordList names, std::uint64_t bits);

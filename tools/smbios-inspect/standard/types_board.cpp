@@ -32,11 +32,11 @@ constexpr FieldRow kBaseboardRows[] = {
 std::string ElementText(const Structures::FormattedArea& area, std::size_t at) {
     constexpr std::uint8_t kIsStructureType = 0x80;
     const std::uint8_t type = area.Byte(at);
-    const std::string name =
+    const std::string_view name =
         (type & kIsStructureType) != 0 ? TypeWords(type & 0x7F) : WordsFor(kBoardTypes, type);
     const std::string least = std::to_string(area.Byte(at + 1));
     const std::string most = std::to_string(area.Byte(at + 2));
-    return name + " (" + (least == most ? least : least + "-" + most) + ")";
+    return std::string(name) + " (" + (least == most ? least : least + "-" + most) + ")";
 }
 
 constexpr std::size_t kFirstElement = 0x15;

@@ -24,7 +24,7 @@ Value ReadHostInterface(const Reading& reading) {
     if (type == kOem) {
         return Words(type, "OEM");
     }
-    return Words(type, std::string(words.value_or(type < kNetwork ? "MCTP" : kOutOfSpec)));
+    return Words(type, words.value_or(type < kNetwork ? "MCTP" : kOutOfSpec));
 }
 
 Value ReadHostDevice(const Reading& reading) {
@@ -97,7 +97,7 @@ std::span<const FieldRow> RowsOfDevice(std::uint8_t type) {
 Value ReadProtocol(const Reading& reading) {
     constexpr std::uint64_t kOem = 0xF0;
     const std::uint64_t id = reading.Raw();
-    const std::string words = id == kOem ? "OEM" : WordsFor(kHostProtocols, id);
+    const std::string words(id == kOem ? "OEM" : WordsFor(kHostProtocols, id));
     return Words(id, HexadecimalText(std::array{static_cast<std::uint8_t>(id)}) + " (" + words + ")");
 }
 

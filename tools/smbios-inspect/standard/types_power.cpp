@@ -141,7 +141,7 @@ Value ReadSupplyStatus(const Reading& reading) {
     if ((characteristics & kIsPresent) == 0) {
         return Words(status, "Not Present");
     }
-    return Words(status, "Present, " + WordsFor(kSupplyStates, status));
+    return Words(status, std::string("Present, ").append(WordsFor(kSupplyStates, status)));
 }
 
 constexpr WordList kNotProvided = kNotProvidedIfWordFull;

@@ -51,8 +51,8 @@ Value ReadProcessorVoltage(const Reading& reading) {
         const auto tenths = static_cast<std::int64_t>(voltage & 0x7F);
         return Number(voltage & 0x7F, DecimalText(tenths, 1) + " V");
     }
-    const std::string capable = InOneLine(NamesOfBits(kProcessorVoltages, voltage));
-    return Nothing(capable.empty() ? kUnknown : std::string_view(capable));
+    std::string capable = InOneLine(NamesOfBits(kProcessorVoltages, voltage));
+    return Nothing(capable.empty() ? ValueText(kUnknown) : ValueText(std::move(capable)));
 }
 
 Value ReadProcessorStatus(const Reading& reading) {
@@ -61,7 +61,7 @@ Value ReadProcessorStatus(const Reading& reading) {
     if ((status & kIsPopulated) == 0) {
         return Words(status, "Unpopulated");
     }
-    return Words(status, "Populated, " + WordsFor(kProcessorStates, status & 0x07));
+    return Words(status, std::string("Populated, ").append(WordsFor(kProcessorStates, status & 0x07)));
 }
 
 /// A count in a byte; one that has no room there is in a word at `WideOffset`.
@@ -79,7 +79,7 @@ Value ReadCoreCount(const Reading& reading) {
 template <char Level>
 Value ReadCacheHandle(const Reading& reading) {
     Value handle = ReadHandle(reading);
-    if (std::holds_alternative<std::monostate>(handle.plain) && !reading.structure.version.IsAtLeast(2, 3)) {
+    if (handle.plain.IsNothing() && !reading.structure.version.IsAtLeast(2, 3)) {
         handle.text = std::string("No L") + Level + " Cache";
     }
     return handle;

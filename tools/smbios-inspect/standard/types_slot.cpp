@@ -20,7 +20,7 @@ Value ReadSlotType(const Reading& reading) {
     const std::uint64_t type = reading.Raw();
     const std::uint8_t width = reading.structure.Area().Byte(kSlotWidth);
     std::string words(kSlotWidths.Find(width).value_or("<OUT OF SPEC> "));
-    return Words(type, words + WordsFor(kSlotTypes, type));
+    return Words(type, words.append(WordsFor(kSlotTypes, type)));
 }
 
 /// A PC card's number has an adapter and a socket, any other one is in the first byte.

@@ -149,8 +149,9 @@ Value ReadGroupItems(const Reading& reading) {
     std::vector<Item> items;
     for (std::size_t at = kFirst; at + kItemSize <= area.Size(); at += kItemSize) {
         const std::uint16_t handle = area.Word(at + 1);
-        items.push_back(
-            {std::uint64_t{handle}, HexText(handle, 4) + " (" + TypeWords(area.Byte(at)) + ")", at + 1});
+        std::string text = HexText(handle, 4) + " (";
+        text.append(TypeWords(area.Byte(at))).append(")");
+        items.push_back({std::uint64_t{handle}, std::move(text), at + 1});
     }
     const std::size_t count = items.size();
     return List(count, std::to_string(count), std::move(items));
