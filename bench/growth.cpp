@@ -9,7 +9,7 @@
 #include "bench/tables.h"
 #include "manager/decoded_table.h"
 #include "smbios-inspect/output/json_writer.h"
-#include "smbios-inspect/records/filed_structure.h"
+#include "smbios-inspect/records/decode_each.h"
 #include "tests/support/counting_buffer.h"
 
 // Time and memory of a structure while tables grow: both must stay what they are.
@@ -24,14 +24,15 @@ std::size_t peakBytes = 0;
 /// What stands in front of each allocation: its size, at the largest alignment.
 constexpr std::size_t kFront = alignof(std::max_align_t);
 
-void WriteJson(const Manager::DecodedTable& table) {
+void WriteJson(const std::vector<std::uint8_t>& rawTable) {
     Tests::CountingBuffer buffer;
     std::ostream output(&buffer);
     Inspect::JsonWriter json(output);
     json.BeginArray();
-    for (const Inspect::FiledStructure& structure : table.structures) {
-        Inspect::WriteStructure(structure, json);
-    }
+    Inspect::DecodeEach(
+        rawTable,
+        [](Manager::Types::StructureTypes) { return true; },
+        [&](const Inspect::FiledStructure& structure) { Inspect::WriteStructure(structure, json); });
     json.EndArray();
     json.EndLine();
 }
@@ -40,21 +41,37 @@ double NanosecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
 }
 
-void PrintRow(const char* name, const std::vector<std::uint8_t>& rawTable) {
+struct LoadCost {
+    double structures = 0;
+    double nanoseconds = 0;
+    double bytesHeld = 0;
+};
+
+LoadCost CostOfLoading(const std::vector<std::uint8_t>& rawTable) {
     const std::size_t before = liveBytes;
-    peakBytes = liveBytes;
     const Clock::time_point start = Clock::now();
     const Manager::DecodedTable table = Manager::DecodeTable(rawTable);
-    const double load = NanosecondsSince(start);
-    const std::size_t held = liveBytes - before;
-    WriteJson(table);
-    const auto count = static_cast<double>(table.structures.size());
+    return {static_cast<double>(table.structures.size()),
+            NanosecondsSince(start),
+            static_cast<double>(liveBytes - before)};
+}
+
+/// Bytes, at most, while the table is written.
+double PeakOfWriting(const std::vector<std::uint8_t>& rawTable) {
+    const std::size_t before = liveBytes;
+    peakBytes = liveBytes;
+    WriteJson(rawTable);
+    return static_cast<double>(peakBytes - before);
+}
+
+void PrintRow(const char* name, const std::vector<std::uint8_t>& rawTable) {
+    const LoadCost load = CostOfLoading(rawTable);
     std::printf("%-24s %10.0f %12.0f %16.0f %17.1f\n",
                 name,
-                count,
-                load / count,
-                static_cast<double>(held) / count,
-                static_cast<double>(peakBytes - before) / static_cast<double>(rawTable.size()));
+                load.structures,
+                load.nanoseconds / load.structures,
+                load.bytesHeld / load.structures,
+                PeakOfWriting(rawTable) / static_cast<double>(rawTable.size()));
 }
 
 }  // namespace

@@ -5,14 +5,13 @@
 #include <utility>
 
 #include "manager/raw_table.h"
-#include "manager/structure_factory.h"
-#include "manager/structure_walk.h"
 #include "platform/raw_table_header.h"
 
 namespace SMBIOS::Manager {
 
 using Platform::RawTableHeader;
 using Structures::BaseStructure;
+using FiledDecoder = Structures::StructureFactory::FiledDecoder;
 
 std::vector<std::shared_ptr<BaseStructure>> StructuresUnder(Types::StructureTypes key,
                                                             const FiledStructures& structures) {
@@ -33,19 +32,26 @@ TableVersion TableVersion::Of(std::span<const std::uint8_t> rawTable, SmbiosVers
     };
 }
 
+FiledDecoder DecodeStructure(const StructureView& structure,
+                             SmbiosVersionIndex version,
+                             RawStructure& memory) {
+    FiledDecoder decoded =
+        Structures::StructureFactory::CreateTablePtr(Types::StructureTypes{structure.type}, version);
+    memory.Assign(structure);
+    decoded.second->Process(memory.formattedBytes, memory.strings);
+    return decoded;
+}
+
 void FileStructures(std::span<const std::uint8_t> structureTable,
                     SmbiosVersionIndex version,
                     FiledStructures& structures) {
     StructureWalk walk(structureTable);
-    RawStructure raw;
+    RawStructure memory;
     bool ranOutOfMemory = false;
     while (const std::optional<StructureView> structure = walk.Next()) {
-        auto [key, decoder] =
-            Structures::StructureFactory::CreateTablePtr(Types::StructureTypes{structure->type}, version);
-        raw.Assign(*structure);
-        decoder->Process(raw.formattedBytes, raw.strings);
-        ranOutOfMemory = ranOutOfMemory || decoder->RanOutOfMemory();
-        structures.emplace(key, std::move(decoder));
+        FiledDecoder decoded = DecodeStructure(*structure, version, memory);
+        ranOutOfMemory = ranOutOfMemory || decoded.second->RanOutOfMemory();
+        structures.insert(std::move(decoded));
     }
     if (ranOutOfMemory) {
         throw std::bad_alloc();

@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "manager/smbios_version.h"
+#include "manager/structure_factory.h"
 #include "manager/structure_types.h"
+#include "manager/structure_walk.h"
 #include "structures/base_structure.h"
 
 namespace SMBIOS::Manager {
@@ -29,6 +31,12 @@ struct TableVersion {
     /// `unlisted`. Throws when nothing follows the header, and std::bad_alloc.
     [[nodiscard]] static TableVersion Of(std::span<const std::uint8_t> rawTable, SmbiosVersionIndex unlisted);
 };
+
+/// Makes a decoder for one structure and lets it process it. Its bytes and strings are copied into `memory`,
+/// which serves one structure after the other. Throws std::bad_alloc.
+[[nodiscard]] Structures::StructureFactory::FiledDecoder DecodeStructure(const StructureView& structure,
+                                                                         SmbiosVersionIndex version,
+                                                                         RawStructure& memory);
 
 /// Walks the structures of a table and files a decoder for each. A structure that cannot be decoded tells so
 /// in its record. Throws std::bad_alloc when any allocation failed, also one that a decoder recorded; what

@@ -27,20 +27,27 @@ consteval std::array<CreationRow, sizeof...(Types)> CreationTableOf(TypeList<Typ
     return {{{Types::kKey, Create<Types>}...}};
 }
 
-constexpr auto kCreationTable = CreationTableOf(DecodedTypes());
+constexpr auto kCreationTable = CreationTableOf(AllDecoders());
 static_assert(std::ranges::adjacent_find(kCreationTable, std::ranges::greater_equal{}, &CreationRow::type) ==
                   std::ranges::end(kCreationTable),
               "the list of decoders must ascend by their keys, without duplicates");
+static_assert(kCreationTable.back().type == UnknownType::kKey);
+
+const CreationRow& RowOf(StructureTypes type) noexcept {
+    const auto row = std::ranges::lower_bound(kCreationTable, type, {}, &CreationRow::type);
+    return row == kCreationTable.end() || row->type != type ? kCreationTable.back() : *row;
+}
 
 }  // namespace
 
+StructureTypes StructureFactory::KeyOf(StructureTypes type) noexcept {
+    return RowOf(type).type;
+}
+
 StructureFactory::FiledDecoder StructureFactory::CreateTablePtr(StructureTypes type,
                                                                 SmbiosVersionIndex version) {
-    const auto row = std::ranges::lower_bound(kCreationTable, type, {}, &CreationRow::type);
-    if (row == kCreationTable.end() || row->type != type) {
-        return {UnknownType::kKey, Create<UnknownType>(version)};
-    }
-    return {row->type, row->create(version)};
+    const CreationRow& row = RowOf(type);
+    return {row.type, row.create(version)};
 }
 
 StructureFactory::FiledDecoder StructureFactory::CreateTablePtr(StructureTypes type) {

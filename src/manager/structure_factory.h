@@ -14,6 +14,9 @@ class StructureFactory {
 public:
     using FiledDecoder = std::pair<Manager::Types::StructureTypes, std::shared_ptr<BaseStructure>>;
 
+    /// What structures of this type are filed under.
+    [[nodiscard]] static Manager::Types::StructureTypes KeyOf(Manager::Types::StructureTypes type) noexcept;
+
     /// `type` is the structure's type byte, `version` that of its table. Returns the key to file the
     /// structure under and a new, empty decoder: the type itself and its own decoder, or `Unknown` and an
     /// `UnknownType` for every other type. Throws std::bad_alloc.

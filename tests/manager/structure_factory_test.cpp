@@ -25,6 +25,14 @@ TEST(StructureFactory, TypesWithoutADecoderGetUnknownTypeAndKey128) {
     EXPECT_TRUE(Makes<Structures::UnknownType>(200, 128));
 }
 
+TEST(StructureFactory, KeyOfIsWhatADecoderIsFiledUnder) {
+    for (int type = 0; type < 256; ++type) {
+        EXPECT_EQ(StructureFactory::KeyOf(StructureTypes{type}),
+                  StructureFactory::CreateTablePtr(StructureTypes{type}).first)
+            << type;
+    }
+}
+
 TEST(StructureFactory, TwoCallsGiveTwoObjects) {
     const auto first = StructureFactory::CreateTablePtr(StructureTypes::MemoryDevice);
     const auto second = StructureFactory::CreateTablePtr(StructureTypes::MemoryDevice);

@@ -4,9 +4,9 @@
 #include <map>
 #include <string>
 
+#include "manager/structure_factory.h"
 #include "platform/raw_table_header.h"
 #include "smbios-inspect/departures/compare_structure.h"
-#include "structures/decoded_types.h"
 
 namespace SMBIOS::Inspect::Departures {
 
@@ -19,11 +19,8 @@ using Standard::TableWalk;
 
 namespace {
 
-/// The key that structures of a type are filed under.
-StructureTypes KeyOf(std::uint8_t type) {
-    return []<class... Types>(Structures::TypeList<Types...>, StructureTypes wanted) {
-        return ((Types::kKey == wanted) || ...) ? wanted : Structures::UnknownType::kKey;
-    }(Structures::DecodedTypes(), StructureTypes{type});
+StructureTypes KeyOf(std::uint8_t type) noexcept {
+    return Structures::StructureFactory::KeyOf(StructureTypes{type});
 }
 
 bool IsListed(TableVersion version) noexcept {

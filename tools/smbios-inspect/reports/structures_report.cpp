@@ -1,5 +1,6 @@
 #include "smbios-inspect/reports/structures_report.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <ostream>
@@ -10,10 +11,12 @@
 
 #include "manager/decoded_table.h"
 #include "manager/raw_table.h"
+#include "manager/structure_factory.h"
 #include "smbios-inspect/departures/find_departures.h"
 #include "smbios-inspect/departures/marks.h"
 #include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/output/text_layout.h"
+#include "smbios-inspect/records/decode_each.h"
 #include "smbios-inspect/records/filed_structure.h"
 #include "smbios-inspect/reports/from_option.h"
 
@@ -21,6 +24,8 @@ namespace SMBIOS::Inspect {
 
 using Departures::Marks;
 using Manager::DecodedTable;
+using Manager::Types::StructureTypes;
+using Structures::StructureFactory;
 
 namespace {
 
@@ -28,18 +33,29 @@ bool IsAskedFor(const FiledStructure& structure, const Request& request) {
     return request.types.empty() || request.types.contains(TypeOf(structure));
 }
 
-void PrintAsJson(const DecodedTable& table, const Request& request, std::ostream& output) {
+/// Whether structures of a type that is asked for are filed under this key.
+bool MayBeAskedFor(StructureTypes key, const Request& request) {
+    return request.types.empty() || std::ranges::any_of(request.types, [key](std::uint8_t type) {
+               return StructureFactory::KeyOf(StructureTypes{type}) == key;
+           });
+}
+
+void PrintAsJson(std::span<const std::uint8_t> rawTable, const Request& request, std::ostream& output) {
+    const auto version = Manager::TableVersion::Of(rawTable, Manager::SmbiosVersionIndex::v2_0_0);
     JsonWriter json(output);
     json.BeginObject();
-    json.Member("version", table.version.text);
-    json.Member("versionIndex", static_cast<int>(table.version.index));
+    json.Member("version", version.text);
+    json.Member("versionIndex", static_cast<int>(version.index));
     json.Name("structures");
     json.BeginArray();
-    for (const FiledStructure& structure : table.structures) {
-        if (IsAskedFor(structure, request)) {
-            WriteStructure(structure, json);
-        }
-    }
+    DecodeEach(
+        rawTable,
+        [&](StructureTypes key) { return MayBeAskedFor(key, request); },
+        [&](const FiledStructure& structure) {
+            if (IsAskedFor(structure, request)) {
+                WriteStructure(structure, json);
+            }
+        });
     json.EndArray();
     json.EndObject();
     json.EndLine();
@@ -98,11 +114,11 @@ void PrintAsText(const DecodedTable& table,
 
 void ReportStructures(const Request& request, const OutputStyle& style, std::ostream& output) {
     const std::vector<std::uint8_t> rawTable = Manager::ReadRawTable();
-    const DecodedTable table = Manager::DecodeTable(rawTable);
     if (request.json) {
-        PrintAsJson(table, request, output);
+        PrintAsJson(rawTable, request, output);
         return;
     }
+    const DecodedTable table = Manager::DecodeTable(rawTable);
     Marks marks;
     Departures::FindDepartures(rawTable, table, marks);
     PrintAsText(table, marks, request, style, output);

@@ -1,7 +1,6 @@
 #include "smbios-inspect/reports/table_facts.h"
 
-#include "manager/decoded_table.h"
-#include "smbios-inspect/records/filed_structure.h"
+#include "smbios-inspect/records/decode_each.h"
 #include "smbios-inspect/reports/table_end.h"
 #include "smbios-inspect/standard/structure.h"
 
@@ -11,13 +10,11 @@ namespace {
 
 /// The structures of which the library has no values: a sound one may be of a version that it does not
 /// decode.
-void CountRefused(const Manager::DecodedTable& table, TableFacts& facts) {
-    for (const FiledStructure& structure : table.structures) {
-        if (!ErrorOf(structure).empty()) {
-            StructureCount& count = IsDamaged(structure) ? facts.malformed : facts.undecoded;
-            ++count.count;
-            count.types.insert(TypeOf(structure));
-        }
+void CountRefused(const FiledStructure& structure, TableFacts& facts) {
+    if (!ErrorOf(structure).empty()) {
+        StructureCount& count = IsDamaged(structure) ? facts.malformed : facts.undecoded;
+        ++count.count;
+        count.types.insert(TypeOf(structure));
     }
 }
 
@@ -31,7 +28,8 @@ TableFacts TableFactsOf(std::span<const std::uint8_t> rawTable) {
     while (walk.Next()) {
         ++facts.structures;
     }
-    CountRefused(Manager::DecodeTable(rawTable), facts);
+    const auto areAll = [](Manager::Types::StructureTypes) { return true; };
+    DecodeEach(rawTable, areAll, [&](const FiledStructure& structure) { CountRefused(structure, facts); });
     return facts;
 }
 
