@@ -27,6 +27,7 @@ namespace SMBIOS::Tests {
 namespace {
 
 using Inspect::FieldText;
+using Inspect::Lines;
 using Inspect::OutputStyle;
 
 std::string Block(const std::vector<FieldText>& fields, const OutputStyle& style) {
@@ -78,7 +79,9 @@ TEST(FiledStructure, LabelsStandInOneColumn) {
 }
 
 TEST(FiledStructure, LinesBehindTheFirstOneHaveNoLabel) {
-    EXPECT_EQ(Block({{"Label", {"1", "2"}, false}}, {}),
+    Lines lines("1");
+    lines.push_back("2");
+    EXPECT_EQ(Block({{"Label", lines, false}}, {}),
               "Heading\n"
               "  Label  1\n"
               "         2\n");

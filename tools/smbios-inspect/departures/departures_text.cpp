@@ -15,10 +15,10 @@ std::string FirmwareText(const Standard::Value* value) {
     if (value == nullptr) {
         return "none";
     }
-    std::string text = value->text;
+    std::string text(value->text);
     if (!value->isInLine) {
         for (const Standard::Item& item : value->items) {
-            text += (text.empty() ? "" : ", ") + item.text;
+            text.append(text.empty() ? "" : ", ").append(item.text);
         }
     }
     return text.empty() ? "none" : text;
@@ -43,9 +43,9 @@ void TextPrinter::Visit(const Departure& departure) {
         heading_ = StructureHeading(departure.structure.Type(), departure.structure.bytes);
     }
     labels_.emplace_back(departure.label == nullptr ? departure.field : std::string_view(departure.label));
-    values_.push_back({"Firmware: " + FirmwareText(departure.standard),
-                       "Library: " + LibraryText(departure),
-                       "Reason: " + ReasonText(departure.reason)});
+    Lines& lines = values_.emplace_back("Firmware: " + FirmwareText(departure.standard));
+    lines.push_back("Library: " + LibraryText(departure));
+    lines.push_back("Reason: " + ReasonText(departure.reason));
 }
 
 void TextPrinter::Finish() {
@@ -62,7 +62,7 @@ void TextPrinter::PrintBlock() {
     }
     std::vector<FieldText> fields;
     for (std::size_t i = 0; i < values_.size(); ++i) {
-        fields.push_back({.label = labels_[i].c_str(), .lines = std::move(values_[i]), .isFailure = false});
+        fields.push_back({.label = labels_[i], .lines = std::move(values_[i]), .isFailure = false});
     }
     output_ << (isFirst_ ? "" : "\n");
     PrintFieldBlock(heading_, fields, style_, output_);

@@ -17,14 +17,16 @@ constexpr std::size_t kColumnGap = 2;
 std::size_t LabelWidth(const std::vector<FieldText>& fields) {
     std::size_t width = 0;
     for (const FieldText& field : fields) {
-        width = std::max(width, DisplayWidth(field.label));
+        width = field.label.size() <= width ? width : std::max(width, DisplayWidth(field.label));
     }
     return width;
 }
 
 /// Where there is no terminal: nothing is wrapped or coloured.
 void PrintPlainly(const std::vector<FieldText>& fields, std::size_t start, std::ostream& output) {
+    constexpr std::size_t kUsualPage = 2048;
     std::string page;
+    page.reserve(kUsualPage);
     for (const FieldText& field : fields) {
         std::string_view label = field.label;
         std::string_view mark = field.isMarked ? " *" : "";
@@ -51,7 +53,7 @@ void PrintFields(const std::vector<FieldText>& fields, const OutputStyle& style,
     }
     for (const FieldText& field : fields) {
         const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
-        std::string label = std::string(kIndent, ' ') + field.label;
+        std::string label = std::string(kIndent, ' ').append(field.label);
         std::string_view mark = field.isMarked ? " *" : "";
         for (const std::string& text : field.lines) {
             const LabelledLines labelled =

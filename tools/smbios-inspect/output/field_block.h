@@ -1,21 +1,17 @@
 #pragma once
 
-#include <cstddef>
 #include <iosfwd>
-#include <string>
 #include <string_view>
 #include <vector>
 
+#include "smbios-inspect/output/lines.h"
 #include "smbios-inspect/output/output_style.h"
 
 namespace SMBIOS::Inspect {
 
-/// What people read of a value, one line an element; none when there is nothing to read.
-using Lines = std::vector<std::string>;
-
 /// A field as people read it. Texts of the firmware are as they are, not yet safe for a terminal.
 struct FieldText {
-    const char* label;
+    std::string_view label;
     Lines lines;
     bool isFailure;
     bool isMarked = false;  ///< with a star behind its first line

@@ -10,7 +10,6 @@ namespace SMBIOS::Inspect {
 
 namespace {
 
-constexpr std::size_t kIndent = 2;
 constexpr char kDigits[] = "0123456789abcdef";
 
 /// The characters that stand for themselves in a text: of ASCII all but controls, quote and backslash.
@@ -26,7 +25,7 @@ constexpr auto kIsPlain = PlainBytes();
 
 std::size_t PlainLength(std::string_view text) noexcept {
     const auto isPlain = [](char character) { return kIsPlain[static_cast<std::uint8_t>(character)]; };
-    return static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
 }
 
 /// The letter behind the backslash; 0 for a character that has none.
@@ -54,9 +53,9 @@ char ShortEscapeFor(char character) noexcept {
 
 void JsonWriter::Name(std::string_view name) {
     BeginElement();
-    Put("\"");
+    *RoomFor(1) = '"';
     Put(name);
-    Put("\": ");
+    std::copy_n("\": ", 3, RoomFor(3));
     isBehindName_ = true;
 }
 
@@ -94,30 +93,16 @@ void JsonWriter::Begin(char bracket) {
 void JsonWriter::End(char bracket) {
     --depth_;
     if (!isFirst_) {
-        BeginLine();
+        BeginLine(false);
     }
-    Put({&bracket, 1});
+    *RoomFor(1) = bracket;
     isFirst_ = false;
 }
 
-void JsonWriter::BeginElement() {
-    if (!isBehindName_) {
-        if (!isFirst_) {
-            Put(",");
-        }
-        BeginLine();
-    }
-    isFirst_ = false;
-    isBehindName_ = false;
-}
-
-void JsonWriter::BeginLine() {
-    constexpr std::string_view kLineStart = "\n                                ";
-    std::size_t indent = kIndent * depth_;
-    Put(kLineStart.substr(0, 1 + indent));
-    while (indent > kLineStart.size() - 1) {
-        indent -= kLineStart.size() - 1;
-        Put(kLineStart.substr(1, indent));
+void JsonWriter::BeginDeepLine(std::size_t size, bool hasComma) {
+    Put(hasComma ? ",\n" : "\n");
+    for (std::size_t blank = hasComma ? 2 : 1; blank < size; ++blank) {
+        *RoomFor(1) = ' ';
     }
 }
 
@@ -164,14 +149,6 @@ void JsonWriter::PutInParts(std::string_view text) {
             HandOver();
         }
     }
-}
-
-char* JsonWriter::RoomFor(std::size_t count) {
-    if (count > buffer_.size() - used_) {
-        HandOver();
-    }
-    used_ += count;
-    return buffer_.data() + used_ - count;
 }
 
 void JsonWriter::HandOver() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <concepts>
@@ -64,14 +65,39 @@ public:
 private:
     void Begin(char bracket);
     void End(char bracket);
-    void BeginElement();
-    void BeginLine();
     void PutElement(std::string_view text);
+    void BeginDeepLine(std::size_t size, bool hasComma);
     void PutText(std::string_view text);
     void PutEscaped(std::string_view character);
     void PutInParts(std::string_view text);
-    char* RoomFor(std::size_t count);  // at most what the buffer holds
     void HandOver();
+
+    void BeginElement() {
+        if (!isBehindName_) {
+            BeginLine(!isFirst_);
+        }
+        isFirst_ = false;
+        isBehindName_ = false;
+    }
+
+    void BeginLine(bool hasComma) {
+        const std::size_t size = (hasComma ? 2 : 1) + kIndent * depth_;
+        if (size > kCopied) {
+            BeginDeepLine(size, hasComma);
+            return;
+        }
+        std::copy_n(kLine.data() + (hasComma ? 0 : 1), kCopied, RoomFor(kCopied));
+        used_ -= kCopied - size;
+    }
+
+    /// Room for so many characters, at most what the buffer holds.
+    char* RoomFor(std::size_t count) {
+        if (count > buffer_.size() - used_) {
+            HandOver();
+        }
+        used_ += count;
+        return buffer_.data() + used_ - count;
+    }
 
     void Put(std::string_view text) {
         if (text.size() > buffer_.size() - used_) {
@@ -81,6 +107,12 @@ private:
         text.copy(buffer_.data() + used_, text.size());
         used_ += text.size();
     }
+
+    static constexpr std::size_t kIndent = 2;
+    static constexpr std::string_view kLine = ",\n                              ";
+
+    /// Of each line's start at least so much is copied: a known length takes no call, and no loop.
+    static constexpr std::size_t kCopied = kLine.size() - 1;
 
     std::ostream& output_;
     std::size_t depth_ = 0;

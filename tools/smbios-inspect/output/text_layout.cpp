@@ -37,7 +37,7 @@ bool IsControl(std::string_view character) noexcept {
 /// Number of characters of ASCII at the start of `text` that are no controls.
 std::size_t PlainLength(std::string_view text) noexcept {
     const auto isPlain = [](char character) { return ' ' <= character && character <= '~'; };
-    return static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
 }
 
 /// Where the character behind the first `count` ones begins; the end of `text` when there is none.

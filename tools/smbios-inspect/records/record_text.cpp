@@ -1,5 +1,7 @@
 #include "smbios-inspect/records/record_text.h"
 
+#include <bit>
+
 #include "common/format.h"
 #include "smbios-inspect/records/record_fields_system.h"
 
@@ -21,10 +23,8 @@ Lines RecordText::LinesOf(const std::vector<std::uint8_t>& bytes) {
 
 Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits) {
     std::string names;
-    for (std::size_t bit = 0; bit < flags.GetBitCount(); ++bit) {
-        if (!flags.Test(bit)) {
-            continue;
-        }
+    for (std::uint64_t rest = WordOf(flags); rest != 0; rest &= rest - 1) {
+        const auto bit = static_cast<std::size_t>(std::countr_zero(rest));
         names += names.empty() ? "" : ", ";
         const char* const name = flags.GetBitName(bit);
         if (name != nullptr) {

@@ -24,6 +24,7 @@ public:
     template <class Fields, class Record>
     [[nodiscard]] static std::vector<FieldText> Of(const Fields& fields, const Record& record) {
         std::vector<FieldText> texts;
+        texts.reserve(std::tuple_size_v<Fields>);
         ForEachField(fields,
                      [&]<class Owner, class Value, class Form>(const Field<Owner, Value, Form>& field) {
                          if (field.label == kShownElsewhere) {
@@ -62,12 +63,12 @@ public:
     /// The fields of a part of a record, in one line.
     template <Described Part>
     [[nodiscard]] static Lines LinesOf(const Part& part) {
-        Lines words;
+        std::string words;
         for (const FieldText& text : Of(Description<Part>::kFields, part)) {
-            const std::string label = *text.label == '\0' ? "" : std::string(text.label) + " ";
-            words.push_back(label + text.lines.front());
+            words.append(words.empty() ? "" : ", ").append(text.label).append(text.label.empty() ? "" : " ");
+            words += text.lines.front();
         }
-        return words.empty() ? Lines() : Lines{Joined(words, ", ")};
+        return words.empty() ? Lines() : Lines(std::move(words));
     }
 
     template <class Element>
@@ -118,7 +119,7 @@ private:
     static Lines InForm(const Value& value, const Record&, Unit unit) {
         Lines lines = LinesOf(value);
         for (std::string& line : lines) {
-            line += (*unit.name == '\0' ? "" : " ") + std::string(unit.name);
+            line.append(*unit.name == '\0' ? "" : " ").append(unit.name);
         }
         return lines;
     }

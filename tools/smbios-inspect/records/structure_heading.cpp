@@ -20,12 +20,14 @@ std::string_view StructureName(std::uint8_t type) {
 
 std::string StructureHeading(std::uint8_t type, std::span<const std::uint8_t> rawBytes) {
     constexpr std::size_t kHandleDigits = 4;
+    constexpr std::size_t kUsualLength = 80;
     const std::string_view name = StructureName(type);
     const std::uint16_t handle = Structures::FormattedArea(rawBytes).Handle();
-    std::string heading = "Type " + std::to_string(type);
-    heading.append(name.empty() ? "" : ": ").append(name);
-    heading += ", handle " + Structures::PaddedHexText(handle, kHandleDigits);
-    heading += ", " + std::to_string(rawBytes.size()) + " bytes";
+    std::string heading;
+    heading.reserve(kUsualLength);
+    heading.append("Type ").append(std::to_string(type)).append(name.empty() ? "" : ": ").append(name);
+    heading.append(", handle ").append(Structures::PaddedHexText(handle, kHandleDigits));
+    heading.append(", ").append(std::to_string(rawBytes.size())).append(" bytes");
     return heading;
 }
 

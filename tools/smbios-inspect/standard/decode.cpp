@@ -17,7 +17,7 @@ std::string ShortnessOf(const Structure& structure, const TypeDescription& descr
                " bytes that its type needs";
     }
     for (const FieldRow& row : description.rows) {
-        if (row.offset < size && size < row.offset + row.width) {
+        if (size < row.offset + row.width && row.offset < size) {
             return "it ends within the field " + std::string(row.name);
         }
     }
@@ -43,12 +43,17 @@ bool IsDescribed(std::uint8_t type) noexcept {
 }
 
 std::string RemarkOn(const Structure& structure) {
-    std::string remark(structure.defect);
     const TypeDescription* description = DescriptionOf(structure.Type());
-    if (remark.empty() && description != nullptr) {
+    std::string remark;
+    if (!structure.defect.empty()) {
+        remark = structure.defect;
+    } else if (description != nullptr) {
         remark = ShortnessOf(structure, *description);
     }
-    return remark.empty() ? remark : "The structure is cut short: " + remark + ".";
+    if (!remark.empty()) {
+        remark = "The structure is cut short: " + remark + ".";
+    }
+    return remark;
 }
 
 }  // namespace SMBIOS::Inspect::Standard

@@ -28,12 +28,20 @@ struct Field {
     const Value& value;
 };
 
-/// A label or a heading with the object's number, from 1, in place of #.
-[[nodiscard]] inline std::string Numbered(std::string_view label, std::size_t index) {
-    std::string text(label);
-    if (const std::size_t mark = text.find('#'); mark != std::string::npos) {
-        text.replace(mark, 1, std::to_string(index + 1));
+/// Appends a label or a heading, with the object's number, from 1, in place of #.
+inline void AppendNumbered(std::string_view label, std::size_t index, std::string& text) {
+    const std::size_t mark = label.find('#');
+    if (mark == std::string_view::npos) {
+        text += label;
+        return;
     }
+    text.append(label.substr(0, mark)).append(std::to_string(index + 1)).append(label.substr(mark + 1));
+}
+
+/// The same by itself.
+[[nodiscard]] inline std::string Numbered(std::string_view label, std::size_t index) {
+    std::string text;
+    AppendNumbered(label, index, text);
     return text;
 }
 

@@ -12,6 +12,8 @@ namespace SMBIOS::Inspect::Standard {
 
 namespace {
 
+constexpr std::size_t kUsualPage = 2048;
+
 bool IsReference(ValueKind kind) noexcept {
     return kind == ValueKind::handle || kind == ValueKind::handleList;
 }
@@ -26,10 +28,11 @@ public:
         if (field.label.empty() || (isQuiet_ && IsReference(field.kind))) {
             return;
         }
-        page_.append("\t").append(Numbered(field.label, field.place.index)).append(":");
-        page_ += field.value.text.empty() ? "" : " ";
+        page_ += "\t";
+        AppendNumbered(field.label, field.place.index, page_);
+        page_.append(": ", field.value.text.empty() ? 1 : 2);
         AppendPrintable(field.value.text, page_);
-        page_ += '\n';
+        page_ += "\n";
         if (field.value.isInLine) {
             return;
         }
@@ -46,7 +49,8 @@ private:
         group_ = place.group;
         index_ = place.index;
         if (isNext && !place.heading.empty()) {
-            page_.append(Numbered(place.heading, place.index)).append("\n");
+            AppendNumbered(place.heading, place.index, page_);
+            page_ += '\n';
         }
     }
 
@@ -86,7 +90,9 @@ void PrintStructure(const Structure& structure,
     const bool isQuiet = detail == Detail::values;
     const std::string heading = isQuiet ? std::string(StructureName(structure.Type()))
                                         : StructureHeading(structure.Type(), structure.bytes);
-    std::string page = Emphasised(heading, Emphasis::heading, style) + "\n";
+    std::string page;
+    page.reserve(kUsualPage);
+    page.append(Emphasised(heading, Emphasis::heading, style)).append("\n");
     TextVisitor visitor(isQuiet, page);
     VisitFields(structure, visitor);
     if (!isQuiet) {
