@@ -30,8 +30,8 @@ Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits)
         if (name != nullptr) {
             names += name;
         } else {
-            const Lines word = WordFor(static_cast<int>(bit), bits.other, bits.unknown);
-            names += word.empty() ? "bit " + std::to_string(bit) : word.front();
+            const std::string_view word = WordFor(static_cast<int>(bit), bits.other, bits.unknown);
+            names.append(word.empty() ? "bit " + std::to_string(bit) : std::string(word));
         }
     }
     return {names.empty() ? "none" : std::move(names)};
@@ -48,11 +48,11 @@ Lines RecordText::LinesOf(const Structures::Type3::Types::ContainedElements& ele
     return lines;
 }
 
-Lines RecordText::WordFor(int number, int other, int unknown) {
+std::string_view RecordText::WordFor(int number, int other, int unknown) noexcept {
     if (number == unknown) {
-        return {"Unknown"};
+        return "Unknown";
     }
-    return number == other ? Lines{"Other"} : Lines();
+    return number == other ? "Other" : "";
 }
 
 std::string RecordText::Joined(const Lines& texts, const char* separator) {

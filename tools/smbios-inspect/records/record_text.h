@@ -151,15 +151,25 @@ private:
 
     template <class Value, class Record, class Owner, class Text>
     static Lines InForm(const Value& code, const Record& record, NamedBy<Owner, Text> name) {
-        const Lines number = LinesOf(code);
-        Lines text = LinesOf(record.*name.text);
-        if (text.empty() && !number.empty()) {
-            text = WordFor(std::stoi(number.front()), name.other, name.unknown);
+        const std::optional<int> number = code;
+        std::string_view text = TextIn(record.*name.text);
+        if (text.empty() && number) {
+            text = WordFor(*number, name.other, name.unknown);
         }
-        if (text.empty() || number.empty()) {
-            return text.empty() ? number : text;
+        if (text.empty()) {
+            return LinesOf(code);
         }
-        return {text.front() + " (" + number.front() + ")"};
+        std::string line(text);
+        if (number) {
+            line.append(" (").append(std::to_string(*number)).append(")");
+        }
+        return line;
+    }
+
+    static std::string_view TextIn(std::string_view text) noexcept { return text; }
+    template <class Text>
+    static std::string_view TextIn(const std::optional<Text>& text) noexcept {
+        return text ? std::string_view(*text) : std::string_view();
     }
 
     template <class Value, class Record, class Owner>
@@ -186,8 +196,8 @@ private:
         return texts.empty() ? Lines() : Lines{Joined(texts, ", ")};
     }
 
-    /// The word for a code or a bit that has no text; none for any other number.
-    [[nodiscard]] static Lines WordFor(int number, int other, int unknown);
+    /// The word for a code or a bit that has no text; empty for any other number.
+    [[nodiscard]] static std::string_view WordFor(int number, int other, int unknown) noexcept;
 
     [[nodiscard]] static std::string Joined(const Lines& texts, const char* separator);
 };
