@@ -11,7 +11,8 @@
 
 namespace SMBIOS::Inspect::Standard {
 
-/// The fields of one structure by their names, without those of the objects that it lists.
+/// The fields of one structure by their names, without those of the objects that it lists. Valid only while
+/// the structure's table is.
 class FieldValues final : private FieldVisitor {
 public:
     explicit FieldValues(const Structure& structure);

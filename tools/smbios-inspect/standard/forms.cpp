@@ -90,12 +90,6 @@ Value ReadFlags(const Reading& reading) {
     return List(bits, text, std::move(names));
 }
 
-bool IsNumberAsItStands(const Form& form) noexcept {
-    constexpr Value (*kReaders[])(const Reading&) = {
-        ReadNumber, ReadHex, ReadHandle, ReadCode, ReadCodeOrOem, ReadFlags, ReadFlagsInLine};
-    return std::ranges::find(kReaders, form.read) != std::end(kReaders);
-}
-
 Value ReadFlagsInLine(const Reading& reading) {
     Value flags = ReadFlags(reading);
     flags.isInLine = true;
@@ -169,6 +163,12 @@ Value ReadBusAddress(const Reading& reading) {
         return Nothing("Not Applicable");
     }
     return Text(BusAddressText(segment, bus, deviceFunction));
+}
+
+bool IsNumberAsItStands(const Form& form) noexcept {
+    constexpr Value (*kReaders[])(const Reading&) = {
+        ReadNumber, ReadHex, ReadHandle, ReadCode, ReadCodeOrOem, ReadFlags, ReadFlagsInLine};
+    return std::ranges::find(kReaders, form.read) != std::end(kReaders);
 }
 
 Value StringNumber(const Structure& structure, std::size_t number) {
