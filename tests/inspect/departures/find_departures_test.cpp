@@ -91,6 +91,15 @@ TEST(Departures, OfACodeAndItsWordAreToldOnce) {
     EXPECT_EQ(FieldsOf(DeparturesOf(table)), "uuid");
 }
 
+TEST(Departures, TellOfAWordThatIsInPlaceOfAReference) {
+    const auto table = TableBuilder(2, 0, 0).Add(StructureBuilder(4, 0x1A).Byte(0x06, 0xFE)).RawTable();
+    const std::vector<FoundDeparture> found = DeparturesOf(table);
+    ASSERT_EQ(FieldsOf(found), "processorFamilyName");
+    EXPECT_EQ(found[0].reason, ReasonId::processorFamily);
+    EXPECT_EQ(found[0].json.at("library"),
+              "Indicator to obtain the processor family from the Processor Family 2 field");
+}
+
 // Where a table is cut
 
 TEST(Departures, TellOfAStructureThatTheLibraryDoesNotFind) {

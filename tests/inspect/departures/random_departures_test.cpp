@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <set>
 #include <string>
@@ -8,6 +10,7 @@
 #include "manager/smbios_version.h"
 #include "manager/structure_factory.h"
 #include "smbios-inspect/departures/compare_structure.h"
+#include "smbios-inspect/standard/types.h"
 #include "structures/decoded_types.h"
 #include "tests/inspect/departures/departures_support.h"
 #include "tests/support/random.h"
@@ -113,6 +116,27 @@ TEST_P(RandomDepartures, AllHaveAReason) {
         }
     }
     EXPECT_GT(checker.count, 0);
+}
+
+/// Each value of each code by itself, in structures as short and as long as they may be.
+TEST_P(RandomDepartures, OfAnyCodeHaveAReason) {
+    const Inspect::Standard::TypeDescription& type = *Inspect::Standard::DescriptionOf(GetParam());
+    ReasonChecker checker;
+    for (const auto& row : type.rows) {
+        for (const unsigned major : {2U, 3U}) {
+            for (const std::size_t length :
+                 {std::max(type.leastLength, row.offset + row.width), std::size_t{0x7F}}) {
+                for (int code = 0; code < 256 && row.form.kind == ValueKind::code && !HasFailure(); ++code) {
+                    const auto table =
+                        TableBuilder(static_cast<std::uint8_t>(major), major == 2 ? 0 : 8, 0)
+                            .Add(StructureBuilder(GetParam(), static_cast<std::uint8_t>(length))
+                                     .Byte(row.offset, static_cast<std::uint8_t>(code)))
+                            .RawTable();
+                    Inspect::Departures::FindDepartures(table, Manager::DecodeTable(table), checker);
+                }
+            }
+        }
+    }
 }
 
 /// Keeps the names of the fields that depart.

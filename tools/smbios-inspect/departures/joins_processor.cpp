@@ -58,6 +58,7 @@ constexpr Join kProcessor[] = {
     {"socketPopulated", "status", Bits(6, 1)},
     {"statusText", "status", {StatusTextAgrees, 0, 3}, {{ReasonId::otherText}}},
     {"processorFamily", "processorFamily", ByKind(), {{ReasonId::processorFamily, Always}}},
+    {"processorFamilyName", "processorFamily", WordOfCode(), {{ReasonId::processorFamily, Is<0xFE>}}},
     {"coreCount", "coreCount", ByKind(), {kWideCount}},
     {"coreEnabled", "coreEnabled", ByKind(), {kWideCount}},
     {"threadCount", "threadCount", ByKind(), {kWideCount}},
