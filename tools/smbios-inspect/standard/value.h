@@ -91,7 +91,7 @@ struct Item {
     bool operator==(const Item&) const = default;
 };
 
-/// The value of a field. Valid only while its structure is.
+/// The value of a field. Valid only while the table of its structure is.
 struct Value {
     Plain plain = {};
     ValueText text = {};    ///< as people read it; empty where the items say it all
