@@ -24,12 +24,12 @@ constexpr std::uint8_t MaskOf(std::size_t i) noexcept {
 
 void Dynamic_BitSet::Assign(std::uint64_t word, std::size_t nbits) {
     bitCount = nbits;
-    bytes.assign((nbits + 7) / 8, 0);
+    bytes.SetToZeros((nbits + 7) / 8);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<std::uint8_t>(word >> (8 * i % 64));
     }
     if (nbits % 8 != 0) {
-        bytes.back() &= static_cast<std::uint8_t>(MaskOf(nbits) - 1);
+        bytes[bytes.size() - 1] &= static_cast<std::uint8_t>(MaskOf(nbits) - 1);
     }
 }
 

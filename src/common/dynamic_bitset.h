@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <span>
 #include <vector>
 
@@ -11,11 +14,45 @@ namespace SMBIOS::Common {
 /// constants of the program and end with a NUL.
 using BitNames = std::span<const char* const>;
 
+/// The bytes of a flag word. Eight of them, the most that a word of the firmware has, take no memory of their
+/// own.
+class FlagBytes {
+public:
+    FlagBytes() = default;
+    FlagBytes(std::initializer_list<std::uint8_t> bytes) {
+        SetToZeros(bytes.size());
+        std::ranges::copy(bytes, begin());
+    }
+
+    void SetToZeros(std::size_t size) {
+        const bool isFew = size <= few_.size();
+        few_ = {};
+        fewCount_ = isFew ? size : 0;
+        many_.assign(isFew ? 0 : size, 0);
+    }
+
+    [[nodiscard]] std::size_t size() const noexcept { return many_.empty() ? fewCount_ : many_.size(); }
+    [[nodiscard]] std::uint8_t* begin() noexcept { return many_.empty() ? few_.data() : many_.data(); }
+    [[nodiscard]] const std::uint8_t* begin() const noexcept {
+        return many_.empty() ? few_.data() : many_.data();
+    }
+    [[nodiscard]] const std::uint8_t* end() const noexcept { return begin() + size(); }
+    [[nodiscard]] std::uint8_t& operator[](std::size_t i) noexcept { return begin()[i]; }
+    [[nodiscard]] std::uint8_t operator[](std::size_t i) const noexcept { return begin()[i]; }
+
+    bool operator==(const FlagBytes& other) const noexcept { return std::ranges::equal(*this, other); }
+
+private:
+    std::array<std::uint8_t, 8> few_ = {};
+    std::size_t fewCount_ = 0;
+    std::vector<std::uint8_t> many_;  // all of them when `few_` has no room for them, else empty
+};
+
 /// A flag word of any width together with the names of its bits.
 struct Dynamic_BitSet {
-    std::size_t bitCount = 0;         ///< number of valid bits
-    std::vector<std::uint8_t> bytes;  ///< bit i is bit (i mod 8), least significant first, of byte i / 8
-    BitNames names;                   ///< may be shorter than `bitCount`
+    std::size_t bitCount = 0;  ///< number of valid bits
+    FlagBytes bytes;           ///< bit i is bit (i mod 8), least significant first, of byte i / 8
+    BitNames names;            ///< may be shorter than `bitCount`
 
     /// Makes the set `nbits` wide and copies bit (i mod 64) of `word` into every bit i. `names` stays as it
     /// is.

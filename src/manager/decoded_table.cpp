@@ -1,5 +1,6 @@
 #include "manager/decoded_table.h"
 
+#include <iterator>
 #include <new>
 #include <optional>
 #include <utility>
@@ -48,10 +49,14 @@ void FileStructures(std::span<const std::uint8_t> structureTable,
     StructureWalk walk(structureTable);
     RawStructure memory;
     bool ranOutOfMemory = false;
+    auto last = structures.end();
     while (const std::optional<StructureView> structure = walk.Next()) {
         FiledDecoder decoded = DecodeStructure(*structure, version, memory);
         ranOutOfMemory = ranOutOfMemory || decoded.second->RanOutOfMemory();
-        structures.insert(std::move(decoded));
+        // Tables hold their structures type by type: mostly the place is right behind the last one.
+        const bool isInRun = last != structures.end() && last->first == decoded.first;
+        const auto place = isInRun ? std::next(last) : structures.upper_bound(decoded.first);
+        last = structures.insert(place, std::move(decoded));
     }
     if (ranOutOfMemory) {
         throw std::bad_alloc();

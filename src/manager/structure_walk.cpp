@@ -28,13 +28,16 @@ void RawStructure::Assign(const StructureView& structure) {
     type = structure.type;
     formattedBytes.assign(structure.formattedArea.begin(), structure.formattedArea.end());
     const std::string_view texts = AsText(structure.stringSet);
-    strings.resize(texts.empty() ? 0 : static_cast<std::size_t>(std::ranges::count(texts, '\0')) + 1);
-    std::size_t begin = 0;
-    for (std::string& text : strings) {
+    std::size_t count = 0;
+    for (std::size_t begin = 0; begin <= texts.size() && !texts.empty(); ++count) {
         const std::size_t end = std::min(texts.find('\0', begin), texts.size());
-        text.assign(texts, begin, end - begin);
+        if (count == strings.size()) {
+            strings.emplace_back();
+        }
+        strings[count].assign(texts, begin, end - begin);
         begin = end + 1;
     }
+    strings.resize(count);
 }
 
 std::optional<StructureView> StructureWalk::Next() noexcept {

@@ -4,14 +4,23 @@
 
 namespace SMBIOS::Structures {
 
+namespace {
+
+/// As the C locale has it: a blank, or one of tab, newline, vertical tab, form feed and carriage return.
+constexpr bool IsWhiteSpace(char character) noexcept {
+    return character == ' ' || ('\t' <= character && character <= '\r');
+}
+
+}  // namespace
+
 std::string_view Trimmed(std::string_view text) noexcept {
-    constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
-    const std::size_t last = text.find_last_not_of(kWhiteSpace);
-    if (last == std::string_view::npos) {
-        return {};
+    while (!text.empty() && IsWhiteSpace(text.back())) {
+        text.remove_suffix(1);
     }
-    const std::size_t first = text.find_first_not_of(kWhiteSpace);
-    return text.substr(first, last - first + 1);
+    while (!text.empty() && IsWhiteSpace(text.front())) {
+        text.remove_prefix(1);
+    }
+    return text;
 }
 
 std::string_view FindString(std::uint8_t number, const std::vector<std::string>& strings) noexcept {

@@ -5,8 +5,12 @@
 namespace SMBIOS::Structures {
 
 std::string StructureReader::String(std::size_t offset) const {
-    std::string text = GetStringByIndex(Byte(offset), strings_);
-    if (text.empty() && !FindString(Byte(offset), strings_).empty()) {
+    const std::uint8_t number = Byte(offset);
+    if (number == 0) {
+        return {};
+    }
+    std::string text = GetStringByIndex(number, strings_);
+    if (text.empty() && !FindString(number, strings_).empty()) {
         NoteLostText();
     }
     return text;

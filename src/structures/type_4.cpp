@@ -1,7 +1,7 @@
 #include "structures/type_4.h"
 
-#include "common/format.h"
 #include "structures/decoding.h"
+#include "structures/hex_text.h"
 #include "structures/processor_family_names.h"
 #include "structures/processor_upgrade_names.h"
 
@@ -107,7 +107,7 @@ constinit const ParseRules Type_4::kRules = {
 
 void Type_4::DecodeFieldsInOrder(StructureReader& in, Type4Struct& record) {
     DecodeVoltage(in, record);
-    record.processorId = Common::format("{:016X}", in.Qword(0x08));
+    record.processorId = HexDigits(in.Qword(0x08), 16);
     record.processorType = in.Byte(0x05);
     record.processorUpgrade = in.Byte(0x19);
     record.processorFamily = FamilyOf(in);

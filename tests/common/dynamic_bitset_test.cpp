@@ -10,6 +10,7 @@ namespace SMBIOS::Tests {
 namespace {
 
 using Common::Dynamic_BitSet;
+using Common::FlagBytes;
 using Common::LowestSetBitName;
 using Common::MakeBitSet;
 using Common::WordOf;
@@ -49,6 +50,24 @@ TEST(DynamicBitSet, AssignRepeatsTheWordPast64Bits) {
     EXPECT_TRUE(set.Test(128));
 }
 
+TEST(DynamicBitSet, AssignOfFewBitsForgetsTheManyBefore) {
+    Dynamic_BitSet set = MakeBitSet(~std::uint64_t{0}, 130, kNames);
+    set.Assign(0x0201, 16);
+    EXPECT_EQ(set.bytes, (FlagBytes{0x01, 0x02}));
+    set.Assign(0, 72);
+    EXPECT_EQ(set.bytes, (FlagBytes{0, 0, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+TEST(DynamicBitSet, CopiesAreSetsOfTheirOwn) {
+    for (const std::size_t bits : {std::size_t{16}, std::size_t{130}}) {
+        const Dynamic_BitSet set = MakeBitSet(0, bits, kNames);
+        Dynamic_BitSet copy = set;
+        copy.Set(bits - 1, true);
+        EXPECT_FALSE(set.Test(bits - 1));
+        EXPECT_TRUE(copy.Test(bits - 1));
+    }
+}
+
 TEST(DynamicBitSet, AssignOfNoBitsMakesAnEmptySet) {
     Dynamic_BitSet set = MakeBitSet(0xFF, 8, kNames);
     set.Assign(0xFF, 0);
@@ -65,15 +84,15 @@ TEST(DynamicBitSet, AssignForgetsEarlierBitsAndKeepsNames) {
 
 TEST(DynamicBitSet, StoresBitIInByteIDividedBy8LeastSignificantFirst) {
     const Dynamic_BitSet set = MakeBitSet(0x8001, 16, kNames);
-    EXPECT_EQ(set.bytes, (std::vector<std::uint8_t>{0x01, 0x80}));
+    EXPECT_EQ(set.bytes, (FlagBytes{0x01, 0x80}));
 }
 
 TEST(DynamicBitSet, SetClearsAndSetsSingleBits) {
     Dynamic_BitSet set = MakeBitSet(0xFFFF, 16, kNames);
     set.Set(9, false);
-    EXPECT_EQ(set.bytes, (std::vector<std::uint8_t>{0xFF, 0xFD}));
+    EXPECT_EQ(set.bytes, (FlagBytes{0xFF, 0xFD}));
     set.Set(9, true);
-    EXPECT_EQ(set.bytes, (std::vector<std::uint8_t>{0xFF, 0xFF}));
+    EXPECT_EQ(set.bytes, (FlagBytes{0xFF, 0xFF}));
 }
 
 TEST(DynamicBitSet, TestPastTheBitCountThrows) {

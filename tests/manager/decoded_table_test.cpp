@@ -67,6 +67,24 @@ TEST(DecodedTable, FilesStructuresUnderTheirKeysInTableOrder) {
     EXPECT_EQ(filed, (std::vector<std::pair<int, int>>{{17, 3}, {17, 1}, {128, 9}, {128, 8}}));
 }
 
+TEST(DecodedTable, KeepsTableOrderWithinRunsOfOneTypeAndFromRunToRun) {
+    const DecodedTable table = DecodeTable(TableBuilder(2, 8, 0)
+                                               .Add(Device(3))
+                                               .Add(Device(1))
+                                               .Add(Device(2))
+                                               .Add({200, 4, 9})
+                                               .Add({201, 4, 8})
+                                               .Add(Device(5))
+                                               .Add(Device(4))
+                                               .Add({200, 4, 7})
+                                               .RawTable());
+    std::vector<int> handles;
+    for (const auto& [key, decoder] : table.structures) {
+        handles.push_back(decoder->GetHandle());
+    }
+    EXPECT_EQ(handles, (std::vector<int>{3, 1, 2, 5, 4, 9, 8, 7}));
+}
+
 TEST(DecodedTable, GetStructuresByTypeGivesTheOnesOfOneKey) {
     const DecodedTable table = DecodeTable(TableBuilder(2, 8, 0).Add({1, 8}).Add(Device(7)).RawTable());
     ASSERT_EQ(table.GetStructuresByType(StructureTypes::MemoryDevice).size(), 1U);

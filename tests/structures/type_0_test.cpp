@@ -276,7 +276,7 @@ TEST(Type0, CharacteristicsAreTheQwordAt0A) {
     ASSERT_TRUE(record->characteristics);
     EXPECT_EQ(record->characteristics->GetBitCount(), 64U);
     EXPECT_EQ(record->characteristics->bytes,
-              (std::vector<std::uint8_t>{0x11, 0x22, 0x33, 0x44, 0x55, 0x66, 0x77, 0x88}));
+              (Common::FlagBytes{0x11, 0x22, 0x33, 0x44, 0x55, 0x66, 0x77, 0x88}));
 }
 
 TEST(Type0, CharacteristicsOf8HaveOnlyTheBitNamedNotSupported) {
@@ -353,7 +353,7 @@ TEST(Type0, FieldsPastAStructureCutShortReadAsZero) {
     EXPECT_EQ(record->startingAddressSegment, "");
     EXPECT_EQ(record->systemBiosRelease, "0.0");
     ASSERT_TRUE(record->characteristics);
-    EXPECT_EQ(record->characteristics->bytes, std::vector<std::uint8_t>(8, 0));
+    EXPECT_EQ(record->characteristics->bytes, (Common::FlagBytes{0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
 }  // namespace
