@@ -118,6 +118,19 @@ TEST(JsonWriter, WritesTextsThatAreLongerThanWhatItKeeps) {
     EXPECT_EQ(Written(text), "\"" + text + "\"\n");
 }
 
+TEST(JsonWriter, EscapesACharacterWhereverItStands) {
+    for (std::size_t size = 1; size < 40; ++size) {
+        for (std::size_t place = 0; place < size; ++place) {
+            for (const std::string character : {"\"", "\\", "\x7F", "\x1F"}) {
+                std::string text(size, 'x');
+                text.replace(place, 1, character);
+                EXPECT_EQ(Json::parse(Written(text)), Json(text));
+                EXPECT_NE(Written(text).find('\\'), std::string::npos) << Written(text);
+            }
+        }
+    }
+}
+
 /// Texts of bytes that begin, continue and end characters of UTF-8, and of ASCII.
 std::string RandomText(std::mt19937& random) {
     constexpr std::string_view kBytes =

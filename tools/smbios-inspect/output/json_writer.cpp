@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <ostream>
+#include <utility>
 
+#include "smbios-inspect/output/copy_text.h"
+#include "smbios-inspect/output/eight_bytes.h"
 #include "smbios-inspect/output/utf8.h"
 
 namespace SMBIOS::Inspect {
@@ -24,8 +27,11 @@ consteval std::array<bool, 256> PlainBytes() {
 constexpr auto kIsPlain = PlainBytes();
 
 std::size_t PlainLength(std::string_view text) noexcept {
+    const auto arePlain = [](std::uint64_t eight) {
+        return ArePrintableAscii(eight) && !HasByte(eight, '"') && !HasByte(eight, '\\');
+    };
     const auto isPlain = [](char character) { return kIsPlain[static_cast<std::uint8_t>(character)]; };
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+    return LengthOfKind(text, arePlain, isPlain);
 }
 
 /// The letter behind the backslash; 0 for a character that has none.
@@ -51,17 +57,41 @@ char ShortEscapeFor(char character) noexcept {
 
 }  // namespace
 
+/// To the end of what was put last.
+inline void JsonWriter::MoveTo(char* place) {
+    place_ = place;
+    if (place_ >= buffer_.data() + kKept) {
+        HandOver();
+    }
+}
+
+inline void JsonWriter::PutLine(Lead lead,
+                                std::string_view before,
+                                std::string_view text,
+                                std::string_view behind) {
+    if (text.size() > kUsualText || depth_ > kMostCopiedDepth) {
+        PutLongLine(lead, before, text, behind);
+        return;
+    }
+    char* place = place_;
+    if (lead != Lead::nothing) {
+        const std::size_t skipped = lead == Lead::commaAndLine ? 0 : 1;
+        std::copy_n(kLine.data() + skipped, kCopied, place);
+        place += 2 - skipped + kIndent * depth_;
+    }
+    MoveTo(CopyText(behind, CopyText(text, CopyText(before, place))));
+}
+
 void JsonWriter::Name(std::string_view name) {
-    BeginElement();
-    *RoomFor(1) = '"';
-    Put(name);
-    std::copy_n("\": ", 3, RoomFor(3));
-    isBehindName_ = true;
+    PutLine(std::exchange(lead_, Lead::nothing), "\"", name, "\": ");
 }
 
 void JsonWriter::Value(std::string_view text) {
-    BeginElement();
-    PutText(text);
+    if (PlainLength(text) == text.size()) {
+        PutLine(std::exchange(lead_, Lead::commaAndLine), "\"", text, "\"");
+    } else {
+        PutEscapedText(text);
+    }
 }
 
 void JsonWriter::Value(float number) {
@@ -69,12 +99,11 @@ void JsonWriter::Value(float number) {
 }
 
 void JsonWriter::Hexadecimal(std::span<const std::uint8_t> bytes) {
-    BeginElement();
-    Put("\"");
+    PutElement("\"");
     for (const std::uint8_t byte : bytes) {
-        char* const digits = RoomFor(2);
-        digits[0] = kDigits[byte >> 4];
-        digits[1] = kDigits[byte & 0x0F];
+        place_[0] = kDigits[byte >> 4];
+        place_[1] = kDigits[byte & 0x0F];
+        MoveTo(place_ + 2);
     }
     Put("\"");
 }
@@ -84,35 +113,38 @@ void JsonWriter::EndLine() {
     HandOver();
 }
 
-void JsonWriter::Begin(char bracket) {
-    PutElement({&bracket, 1});
+void JsonWriter::Begin(const char* bracket) {
+    PutLine(std::exchange(lead_, Lead::line), "", {bracket, 1}, "");
     ++depth_;
-    isFirst_ = true;
 }
 
-void JsonWriter::End(char bracket) {
+void JsonWriter::End(const char* bracket) {
     --depth_;
-    if (!isFirst_) {
-        BeginLine(false);
-    }
-    *RoomFor(1) = bracket;
-    isFirst_ = false;
-}
-
-void JsonWriter::BeginDeepLine(std::size_t size, bool hasComma) {
-    Put(hasComma ? ",\n" : "\n");
-    for (std::size_t blank = hasComma ? 2 : 1; blank < size; ++blank) {
-        *RoomFor(1) = ' ';
-    }
+    const bool isEmpty = std::exchange(lead_, Lead::commaAndLine) == Lead::line;
+    PutLine(isEmpty ? Lead::nothing : Lead::line, "", {bracket, 1}, "");
 }
 
 void JsonWriter::PutElement(std::string_view text) {
-    BeginElement();
-    Put(text);
+    PutLine(std::exchange(lead_, Lead::commaAndLine), "", text, "");
 }
 
-void JsonWriter::PutText(std::string_view text) {
-    Put("\"");
+void JsonWriter::PutLongLine(Lead lead,
+                             std::string_view before,
+                             std::string_view text,
+                             std::string_view behind) {
+    if (lead != Lead::nothing) {
+        Put(lead == Lead::commaAndLine ? ",\n" : "\n");
+        for (std::size_t blanks = kIndent * depth_; blanks != 0; --blanks) {
+            Put(" ");
+        }
+    }
+    for (const std::string_view part : {before, text, behind}) {
+        Put(part);
+    }
+}
+
+void JsonWriter::PutEscapedText(std::string_view text) {
+    PutElement("\"");
     for (std::size_t plain = PlainLength(text);; plain = PlainLength(text)) {
         Put(text.substr(0, plain));
         text.remove_prefix(plain);
@@ -139,21 +171,17 @@ void JsonWriter::PutEscaped(std::string_view character) {
     }
 }
 
-void JsonWriter::PutInParts(std::string_view text) {
+void JsonWriter::Put(std::string_view text) {
     while (!text.empty()) {
-        const std::size_t room = std::min(buffer_.size() - used_, text.size());
-        text.copy(buffer_.data() + used_, room);
-        used_ += room;
-        text.remove_prefix(room);
-        if (used_ == buffer_.size()) {
-            HandOver();
-        }
+        const std::string_view part = text.substr(0, kUsualText);
+        MoveTo(CopyText(part, place_));
+        text.remove_prefix(part.size());
     }
 }
 
 void JsonWriter::HandOver() {
-    output_.write(buffer_.data(), static_cast<std::streamsize>(used_));
-    used_ = 0;
+    output_.write(buffer_.data(), place_ - buffer_.data());
+    place_ = buffer_.data();
 }
 
 }  // namespace SMBIOS::Inspect

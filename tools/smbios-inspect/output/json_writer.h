@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <concepts>
@@ -23,10 +22,10 @@ public:
     JsonWriter& operator=(const JsonWriter&) = delete;
     ~JsonWriter() = default;
 
-    void BeginObject() { Begin('{'); }
-    void EndObject() { End('}'); }
-    void BeginArray() { Begin('['); }
-    void EndArray() { End(']'); }
+    void BeginObject() { Begin("{"); }
+    void EndObject() { End("}"); }
+    void BeginArray() { Begin("["); }
+    void EndArray() { End("]"); }
 
     /// The value that follows is the object's member of this name, one of the program's own: no character of
     /// it needs an escape.
@@ -63,63 +62,39 @@ public:
     void EndLine();
 
 private:
-    void Begin(char bracket);
-    void End(char bracket);
+    /// What comes in front of an element.
+    enum class Lead : std::uint8_t { nothing, line, commaAndLine };
+
+    void Begin(const char* bracket);
+    void End(const char* bracket);
     void PutElement(std::string_view text);
-    void BeginDeepLine(std::size_t size, bool hasComma);
-    void PutText(std::string_view text);
+    void PutLine(Lead lead, std::string_view before, std::string_view text, std::string_view behind);
+    void PutLongLine(Lead lead, std::string_view before, std::string_view text, std::string_view behind);
+    void PutEscapedText(std::string_view text);
     void PutEscaped(std::string_view character);
-    void PutInParts(std::string_view text);
+    void Put(std::string_view text);
+    void MoveTo(char* place);
     void HandOver();
-
-    void BeginElement() {
-        if (!isBehindName_) {
-            BeginLine(!isFirst_);
-        }
-        isFirst_ = false;
-        isBehindName_ = false;
-    }
-
-    void BeginLine(bool hasComma) {
-        const std::size_t size = (hasComma ? 2 : 1) + kIndent * depth_;
-        if (size > kCopied) {
-            BeginDeepLine(size, hasComma);
-            return;
-        }
-        std::copy_n(kLine.data() + (hasComma ? 0 : 1), kCopied, RoomFor(kCopied));
-        used_ -= kCopied - size;
-    }
-
-    /// Room for so many characters, at most what the buffer holds.
-    char* RoomFor(std::size_t count) {
-        if (count > buffer_.size() - used_) {
-            HandOver();
-        }
-        used_ += count;
-        return buffer_.data() + used_ - count;
-    }
-
-    void Put(std::string_view text) {
-        if (text.size() > buffer_.size() - used_) {
-            PutInParts(text);
-            return;
-        }
-        text.copy(buffer_.data() + used_, text.size());
-        used_ += text.size();
-    }
 
     static constexpr std::size_t kIndent = 2;
     static constexpr std::string_view kLine = ",\n                              ";
 
     /// Of each line's start at least so much is copied: a known length takes no call, and no loop.
     static constexpr std::size_t kCopied = kLine.size() - 1;
+    static constexpr std::size_t kMostCopiedDepth = (kCopied - 2) / kIndent;
+
+    /// A longer text is put in parts.
+    static constexpr std::size_t kUsualText = 128;
+
+    /// Behind what is kept there is always room for a usual line: it need not be looked for.
+    static constexpr std::size_t kKept = 4096;
+    static constexpr std::size_t kUsualLine = kCopied + kUsualText + 8;
 
     std::ostream& output_;
     std::size_t depth_ = 0;
-    bool isFirst_ = true;       // in its object or array
-    bool isBehindName_ = true;  // or outermost: the element needs no comma and no line of its own
-    std::size_t used_ = 0;
-    std::array<char, 4096> buffer_;
+    Lead lead_ = Lead::nothing;  // of the next element
+    char* place_ = buffer_.data();
+    std::array<char, kKept + kUsualLine> buffer_;
 };
 
 }  // namespace SMBIOS::Inspect

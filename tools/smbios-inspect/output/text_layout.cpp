@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ostream>
 
+#include "smbios-inspect/output/eight_bytes.h"
 #include "smbios-inspect/output/utf8.h"
 
 namespace SMBIOS::Inspect {
@@ -37,7 +38,7 @@ bool IsControl(std::string_view character) noexcept {
 /// Number of characters of ASCII at the start of `text` that are no controls.
 std::size_t PlainLength(std::string_view text) noexcept {
     const auto isPlain = [](char character) { return ' ' <= character && character <= '~'; };
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+    return LengthOfKind(text, ArePrintableAscii, isPlain);
 }
 
 /// Where the character behind the first `count` ones begins; the end of `text` when there is none.
@@ -173,14 +174,18 @@ LabelledLines BesideLabel(std::string_view text, std::size_t start, std::size_t 
 }
 
 std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style) {
+    std::string emphasised;
+    AppendEmphasised(text, emphasis, style, emphasised);
+    return emphasised;
+}
+
+void AppendEmphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style, std::string& line) {
     constexpr std::string_view kPlain = "\x1B[0m";
     if (!style.colour || text.empty() || emphasis == Emphasis::none) {
-        return std::string(text);
+        line += text;
+        return;
     }
-    std::string emphasised(EscapeSequenceFor(emphasis));
-    emphasised += text;
-    emphasised += kPlain;
-    return emphasised;
+    line.append(EscapeSequenceFor(emphasis)).append(text).append(kPlain);
 }
 
 void PrintSentence(std::string_view text, const OutputStyle& style, std::ostream& output) {

@@ -52,6 +52,9 @@ enum class Emphasis : std::uint8_t { none, heading, warning, failure, added, rem
 /// `text` in the emphasis's colour, if the style has colours.
 [[nodiscard]] std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style);
 
+/// The same behind what `line` holds already.
+void AppendEmphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style, std::string& line);
+
 /// Prints a sentence, which may come from the firmware, on as many lines as it takes.
 void PrintSentence(std::string_view text, const OutputStyle& style, std::ostream& output);
 
