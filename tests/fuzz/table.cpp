@@ -29,7 +29,7 @@ void WriteAll(const Manager::DecodedTable& table, std::ostream& output) {
 
 void PrintAll(const Manager::DecodedTable& table, const Inspect::OutputStyle& style, std::ostream& output) {
     for (const FiledStructure& structure : table.structures) {
-        Inspect::PrintStructure(structure, style, output);
+        Inspect::StructurePrinter(style, output).Print(structure);
     }
 }
 

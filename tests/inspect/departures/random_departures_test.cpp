@@ -156,7 +156,7 @@ TEST_P(RandomDepartures, TellEveryFieldOfAnotherStructure) {
     constexpr std::size_t kLength = 0x70;
     RandomContent random(GetParam());
     NameKeeper keeper;
-    Inspect::Departures::Pairings pairings;
+    Inspect::Departures::ComparisonMemory memory;
     std::vector<LibraryField> fields;
     for (int i = 0; i < 500; ++i) {
         const std::size_t length = LengthOf(GetParam(), kLength);
@@ -169,13 +169,48 @@ TEST_P(RandomDepartures, TellEveryFieldOfAnotherStructure) {
         decoder->Process(one.FormattedBytes(), one.Strings());
         ASSERT_EQ(Inspect::Departures::FrameOf(key, *decoder).error, "");
         Inspect::Departures::CompareStructure(
-            *structure, {key, *decoder, VersionOf(GetParam()), true}, pairings, keeper);
+            *structure, {key, *decoder, VersionOf(GetParam()), true}, memory, keeper);
         fields = Inspect::Departures::LibraryFieldsOf(key, *decoder);
     }
-    for (const LibraryField& field : fields) {
-        const Pair pair = Inspect::Departures::PairOf(GetParam(), field);
-        EXPECT_TRUE(!IsNoWord(field, pair) || keeper.names.contains(field.name)) << field.name;
+    const auto pairs = Inspect::Departures::PairsOf(GetParam(), fields).pairs;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        EXPECT_TRUE(!IsNoWord(fields[i], pairs[i]) || keeper.names.contains(fields[i].name))
+            << fields[i].name;
     }
+}
+
+/// A glance says that values agree only where the rule that it spares does.
+TEST_P(RandomDepartures, AreNeverOverlookedAtAGlance) {
+    RandomContent random(GetParam());
+    int glances = 0;
+    for (int i = 0; i < 2000 && !HasFailure(); ++i) {
+        const std::size_t length = LengthOf(GetParam(), 4 + random.Below(0x70));
+        const auto one = RandomStructure(GetParam(), length, random);
+        const auto other = random.Below(2) == 0 ? one : RandomStructure(GetParam(), length, random);
+        const auto table = TableBuilder(3, 8, 0).Add(other).RawTable();
+        const auto structure = Inspect::Standard::TableWalk(table).Next();
+        const auto [key, decoder] = Structures::StructureFactory::CreateTablePtr(
+            Manager::Types::StructureTypes{GetParam()}, VersionOf(GetParam()));
+        decoder->Process(one.FormattedBytes(), one.Strings());
+        const auto fields = Inspect::Departures::LibraryFieldsOf(key, *decoder);
+        const auto pairs = Inspect::Departures::PairsOf(GetParam(), fields).pairs;
+        for (std::size_t field = 0; field < fields.size(); ++field) {
+            const Pair& pair = pairs[field];
+            if (pair.glance != nullptr && pair.standard.IsWithin(*structure) &&
+                pair.glance(fields[field].value, {*structure, *pair.standard.row, 0})) {
+                const Inspect::Departures::Comparison comparison(*structure,
+                                                                 *decoder,
+                                                                 VersionOf(GetParam()),
+                                                                 fields[field],
+                                                                 pair.standard,
+                                                                 pair.rule.lowBit,
+                                                                 pair.rule.bitCount);
+                EXPECT_TRUE(pair.rule.agree(comparison)) << fields[field].name;
+                ++glances;
+            }
+        }
+    }
+    EXPECT_TRUE(glances > 0 || GetParam() == 11 || GetParam() == 32) << "no field is compared at a glance";
 }
 
 std::vector<std::uint8_t> DecodedTypeNumbers() {

@@ -32,7 +32,7 @@ using Inspect::OutputStyle;
 
 std::string Block(const std::vector<FieldText>& fields, const OutputStyle& style) {
     std::ostringstream output;
-    Inspect::PrintFieldBlock("Heading", fields, style, output);
+    Inspect::FieldPrinter(style, output).PrintBlock("Heading", fields);
     return output.str();
 }
 
@@ -46,7 +46,8 @@ Inspect::FiledStructure Filed(const StructureBuilder& structure, Manager::Smbios
 template <class Type>
 std::string TextOf(const StructureBuilder& structure, Manager::SmbiosVersionIndex version = v3_8_0) {
     std::ostringstream output;
-    Inspect::PrintStructure(Filed<Type>(structure, version), {}, output);
+    const OutputStyle style;
+    Inspect::StructurePrinter(style, output).Print(Filed<Type>(structure, version));
     return output.str();
 }
 

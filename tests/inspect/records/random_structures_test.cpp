@@ -127,7 +127,7 @@ void ExpectValidJson(const std::vector<FiledStructure>& structures) {
 void ExpectHarmlessText(const std::vector<FiledStructure>& structures, const OutputStyle& style) {
     std::ostringstream output;
     for (const FiledStructure& structure : structures) {
-        Inspect::PrintStructure(structure, style, output);
+        Inspect::StructurePrinter(style, output).Print(structure);
     }
     ASSERT_TRUE(IsHarmlessText(output.str())) << output.str();
 }
@@ -167,8 +167,9 @@ TEST(StructuresOfRandomTables, NoLineOfShortWordsIsWiderThanTheTerminal) {
     RandomContent random(3);
     for (int i = 0; i < kTables; ++i) {
         const SmbiosVersionIndex version = random.Version();
+        const OutputStyle style{.width = kWidth};
         std::ostringstream output;
-        Inspect::PrintStructure(Decoded(WellFormedStructure(random), version), {.width = kWidth}, output);
+        Inspect::StructurePrinter(style, output).Print(Decoded(WellFormedStructure(random), version));
         std::istringstream lines(output.str());
         for (std::string line; std::getline(lines, line);) {
             const auto isStart = [](char character) { return (character & 0xC0) != 0x80; };

@@ -73,12 +73,10 @@ bool NeedsTable(const Options& options) noexcept {
            !(options.command == Command::diff && options.newTable);
 }
 
-/// The summary and the comparison say it themselves.
-void WarnOfLostEnd(const Options& options, std::ostream& errors) {
+/// Whether to say that the table may have lost its end: the summary and the comparison say it themselves.
+bool HasToWarnOfLostEnd(const Options& options) {
     const bool saysItItself = options.command == Command::summary || options.command == Command::diff;
-    if (NeedsTable(options) && !saysItItself && MayBeCutShort(Manager::ReadRawTable())) {
-        errors << "smbios-inspect: " << kCutShortText << '\n';
-    }
+    return NeedsTable(options) && !saysItItself && MayBeCutShort(Manager::ReadRawTable());
 }
 
 /// Throws std::bad_alloc, also while it tells of another failure.
@@ -89,9 +87,12 @@ int RunOrTell(std::span<const std::string_view> arguments,
     try {
         const Options options = ParseOptions(arguments);
         const TableInput table = NeedsTable(options) ? TableInput(options.report.from) : TableInput();
+        const bool hasToWarn = HasToWarnOfLostEnd(options);
         const int status = Report(options, style, output, errors);
         output.flush();  // whoever joins the two streams reads the report first
-        WarnOfLostEnd(options, errors);
+        if (hasToWarn) {
+            errors << "smbios-inspect: " << kCutShortText << '\n';
+        }
         return status;
     } catch (const UsageError& error) {
         errors << "smbios-inspect: " << Printable(error.what()) << "\nSee smbios-inspect --help.\n";

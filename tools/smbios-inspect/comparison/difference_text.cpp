@@ -45,7 +45,7 @@ public:
         for (const ChangeText& change : changes) {
             fields.push_back({change.label.c_str(), change.lines, false});
         }
-        PrintFields(fields, style_, output_);
+        FieldPrinter(style_, output_).Print(fields);
     }
 
     void PrintCounts(const Counts& counts) const {

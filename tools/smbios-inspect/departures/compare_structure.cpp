@@ -52,12 +52,16 @@ class StructureComparison {
 public:
     StructureComparison(const Structure& structure,
                         const LibraryStructure& library,
+                        ComparisonMemory& memory,
                         DepartureVisitor& visitor)
         : structure_(structure),
           library_(library),
           frame_(FrameOf(library.key, library.decoder)),
-          fields_(LibraryFieldsOf(library.key, library.decoder)),
-          visitor_(visitor) {}
+          fields_(memory.fields),
+          pairings_(memory.pairings),
+          visitor_(visitor) {
+        ReadLibraryFields(library.key, library.decoder, fields_);
+    }
 
     void CompareAcceptance() {
         const Standard::TypeDescription* type = Standard::DescriptionOf(structure_.Type());
@@ -65,19 +69,24 @@ public:
             type != nullptr && structure_.defect.empty() && structure_.bytes.size() >= type->leastLength;
         if (isWhole) {
             const Value accepted = Standard::Text("accepted");
-            Tell(IndexOf("error"), nullptr, &accepted, ReasonOfRefusal());
+            const bool wantsDetails = visitor_.WantsDetails();
+            Tell(IndexOf("error"),
+                 nullptr,
+                 &accepted,
+                 wantsDetails ? ReasonOfRefusal() : ReasonId::unexplained);
         }
     }
 
-    void CompareFields(Pairings& pairings) {
-        const std::vector<Pair>& pairs = pairings.Of(structure_.Type(), fields_);
+    void CompareFields() {
+        const RecordPairs& record = pairings_.Of(structure_.Type(), fields_);
         for (std::size_t i = 0; i < fields_.size(); ++i) {
-            if (pairs[i].standard.row != nullptr) {
-                CompareField(i, pairs[i]);
+            const Pair& pair = record.pairs[i];
+            if (pair.standard.row != nullptr && !AgreeAtOnce(fields_[i].value, pair)) {
+                CompareField(i, pair);
             }
         }
         CompareBytes();
-        if (!pairs[IndexOf("strings")].IsKnown()) {
+        if (!record.hasStrings) {
             CompareStrings();
         }
     }
@@ -86,33 +95,28 @@ public:
 
 private:
     void CompareField(std::size_t index, const Pair& pair) {
-        if (AgreeAtOnce(fields_[index].value, pair)) {
-            return;
-        }
-        const std::optional<Value> standard = ReadStandardField(structure_, pair.standard);
-        const Comparison comparison{structure_,
+        const Comparison comparison(structure_,
                                     library_.decoder,
                                     library_.version,
                                     fields_[index],
-                                    pair.standard.row,
-                                    standard,
+                                    pair.standard,
                                     pair.rule.lowBit,
-                                    pair.rule.bitCount};
-        if (!pair.rule.agree(comparison) && !IsToldInSameLine(index, pair)) {
-            Tell(
-                index, pair.standard.row, standard ? &*standard : nullptr, ReasonOf(comparison, index, pair));
-            told_.push_back({pair.standard.row, fields_[index].label});
+                                    pair.rule.bitCount);
+        if (pair.rule.agree(comparison) || IsToldInSameLine(index, pair)) {
+            return;
         }
+        told_.push_back({pair.standard.row, fields_[index].label});
+        if (!visitor_.WantsDetails()) {
+            Tell(index, pair.standard.row, nullptr, ReasonId::unexplained);
+            return;
+        }
+        const std::optional<Value>& standard = comparison.StandardValue();
+        Tell(index, pair.standard.row, standard ? &*standard : nullptr, ReasonOf(comparison, index, pair));
     }
 
-    /// What by far the most fields are: a number that both take from the bytes as it stands. The standard's
-    /// words for it need not be made then.
     [[nodiscard]] bool AgreeAtOnce(const LibraryValue& value, const Pair& pair) const {
-        const auto* const number = std::get_if<std::uint64_t>(&value);
-        const StandardField& standard = pair.standard;
-        return number != nullptr && pair.rule.agree == AgreeByKind && !standard.isBehindGroup &&
-               standard.IsWithin(structure_) && Standard::IsNumberAsItStands(standard.row->form) &&
-               Standard::Reading{structure_, *standard.row, 0}.Raw() == *number;
+        return pair.glance != nullptr && pair.standard.IsWithin(structure_) &&
+               pair.glance(value, {structure_, *pair.standard.row, 0});
     }
 
     /// The raw bytes are the structure's.
@@ -152,7 +156,7 @@ private:
                 return cause.reason;
             }
         }
-        if (!comparison.standard) {
+        if (!comparison.HasStandardValue()) {
             return ReasonId::missingBytes;
         }
         if (!comparison.HasLibraryValue() && Newest().HasValue(index)) {
@@ -163,7 +167,7 @@ private:
                 return cause.reason;
             }
         }
-        if (!comparison.HasLibraryValue() && comparison.standard->text == "Other") {
+        if (!comparison.HasLibraryValue() && comparison.StandardValue()->text == "Other") {
             return ReasonId::otherText;
         }
         return HasOtherStrings() && comparison.library.isText ? ReasonId::cutting : ReasonId::unexplained;
@@ -213,7 +217,8 @@ private:
     const Structure& structure_;
     const LibraryStructure& library_;
     RecordFrame frame_;
-    std::vector<LibraryField> fields_;
+    std::vector<LibraryField>& fields_;
+    Pairings& pairings_;
     std::vector<Told> told_;
     std::optional<NewestReading> newest_;  // made when it is asked for
     DepartureVisitor& visitor_;
@@ -223,13 +228,13 @@ private:
 
 void CompareStructure(const Structure& structure,
                       const LibraryStructure& library,
-                      Pairings& pairings,
+                      ComparisonMemory& memory,
                       DepartureVisitor& visitor) {
-    StructureComparison comparison(structure, library, visitor);
+    StructureComparison comparison(structure, library, memory, visitor);
     if (comparison.IsRefused()) {
         comparison.CompareAcceptance();
     } else {
-        comparison.CompareFields(pairings);
+        comparison.CompareFields();
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "manager/decoded_table.h"
 #include "smbios-inspect/departures/departure.h"
 #include "smbios-inspect/departures/pairing.h"
@@ -14,11 +16,17 @@ struct LibraryStructure {
     bool isVersionListed;                 ///< whether that is the one that the table claims
 };
 
+/// What the comparison of one structure leaves for that of the next.
+struct ComparisonMemory {
+    Pairings pairings;
+    std::vector<LibraryField> fields;
+};
+
 /// Hands the values that depart to `visitor`. Of a code and its word, which people read in one line, it is
 /// the code only when both depart.
 void CompareStructure(const Standard::Structure& structure,
                       const LibraryStructure& library,
-                      Pairings& pairings,
+                      ComparisonMemory& memory,
                       DepartureVisitor& visitor);
 
 }  // namespace SMBIOS::Inspect::Departures

@@ -6,21 +6,49 @@
 
 #include "manager/smbios_version.h"
 #include "smbios-inspect/departures/library_fields.h"
+#include "smbios-inspect/departures/standard_field.h"
 #include "smbios-inspect/standard/description.h"
 #include "structures/base_structure.h"
 
 namespace SMBIOS::Inspect::Departures {
 
 /// A field of a record, and what the standard makes of the same bytes. A view: valid only while they are.
-struct Comparison {
+class Comparison {
+public:
+    /// The bits are those of the standard's field that the library's is.
+    Comparison(const Standard::Structure& ofStructure,
+               const Structures::BaseStructure& ofDecoder,
+               Manager::SmbiosVersionIndex ofVersion,
+               const LibraryField& ofLibrary,
+               const StandardField& ofStandard,
+               unsigned ofLowBit,
+               unsigned ofBitCount) noexcept
+        : structure(ofStructure),
+          decoder(ofDecoder),
+          version(ofVersion),
+          library(ofLibrary),
+          row(ofStandard.row),
+          lowBit(ofLowBit),
+          bitCount(ofBitCount),
+          standard_(ofStandard) {}
+
     const Standard::Structure& structure;
     const Structures::BaseStructure& decoder;
-    Manager::SmbiosVersionIndex version;  ///< that the library takes the table for
+    const Manager::SmbiosVersionIndex version;  ///< that the library takes the table for
     const LibraryField& library;
-    const Standard::FieldRow* row;                   ///< null when the standard has no such field
-    const std::optional<Standard::Value>& standard;  ///< none when the structure ends before the field does
-    unsigned lowBit = 0;
-    unsigned bitCount = 64;
+    const Standard::FieldRow* const row;  ///< null when the standard has no such field
+    const unsigned lowBit;
+    const unsigned bitCount;
+
+    /// What the standard makes of the field, made when it is asked for; none when the structure ends before
+    /// the field does.
+    [[nodiscard]] const std::optional<Standard::Value>& StandardValue() const;
+
+    /// Whether there is one, which mostly is told without making it.
+    [[nodiscard]] bool HasStandardValue() const {
+        return standard_.isBehindGroup ? StandardValue().has_value()
+                                       : row != nullptr && standard_.IsWithin(structure);
+    }
 
     [[nodiscard]] Structures::FormattedArea Area() const noexcept { return structure.Area(); }
 
@@ -36,6 +64,11 @@ struct Comparison {
 
     /// Another field of the standard's description of the structure.
     [[nodiscard]] std::optional<Standard::Value> Other(std::string_view name) const;
+
+private:
+    const StandardField& standard_;
+    mutable bool isRead_ = false;
+    mutable std::optional<Standard::Value> value_;
 };
 
 /// Whether two values agree.

@@ -34,6 +34,10 @@ public:
     virtual ~DepartureVisitor() = default;
 
     virtual void Visit(const Departure& departure) = 0;
+
+    /// Whether it looks at the standard's values and at the reasons, each of which may take another reading
+    /// of the structure. They need not be told to one that does not.
+    [[nodiscard]] virtual bool WantsDetails() const noexcept { return true; }
 };
 
 }  // namespace SMBIOS::Inspect::Departures

@@ -65,7 +65,7 @@ void TextPrinter::PrintBlock() {
         fields.push_back({.label = labels_[i], .lines = std::move(values_[i]), .isFailure = false});
     }
     output_ << (isFirst_ ? "" : "\n");
-    PrintFieldBlock(heading_, fields, style_, output_);
+    FieldPrinter(style_, output_).PrintBlock(heading_, fields);
     isFirst_ = false;
     labels_.clear();
     values_.clear();

@@ -6,6 +6,7 @@
 
 #include "smbios-inspect/departures/reasons.h"
 #include "smbios-inspect/departures/rules.h"
+#include "smbios-inspect/records/record_of.h"
 #include "structures/parse_rules.h"
 
 // How the fields of a record are joined with those of the standard.
@@ -66,7 +67,7 @@ template <std::uint64_t Number>
 /// The record of a decoder.
 template <class Decoder>
 [[nodiscard]] const auto& RecordIn(const Comparison& comparison) {
-    return *dynamic_cast<const Decoder&>(comparison.decoder).GetRecord();
+    return RecordOf<Decoder>(comparison.decoder);
 }
 
 // joins_system.cpp

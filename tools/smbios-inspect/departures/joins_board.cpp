@@ -70,7 +70,7 @@ bool PeerGroupsAgree(const Comparison& comparison) {
         }
         offset += kPeerSize;
     }
-    return comparison.standard && groups->size() == comparison.Raw();
+    return comparison.HasStandardValue() && groups->size() == comparison.Raw();
 }
 
 bool IsBefore3_2(const Comparison& comparison) {
@@ -79,7 +79,8 @@ bool IsBefore3_2(const Comparison& comparison) {
 
 /// A pitch of zero, or one of which the structure has one byte.
 bool IsPitchWithoutValue(const Comparison& comparison) {
-    return comparison.HasLibraryValue() && (!comparison.standard || HasNothing(*comparison.standard));
+    return comparison.HasLibraryValue() &&
+           (!comparison.HasStandardValue() || HasNothing(*comparison.StandardValue()));
 }
 
 constexpr Cause kTail = {ReasonId::slotTail};
@@ -121,7 +122,7 @@ constexpr Refusal kOnboardDeviceRefusals[] = {
 /// Four characters, of which the standard leaves out a zero and what is behind it.
 bool VendorIdAgrees(const Comparison& comparison) {
     const std::string_view id = TextOf(comparison.library.value);
-    return comparison.standard && comparison.standard->text == id.substr(0, id.find('\0'));
+    return comparison.HasStandardValue() && comparison.StandardValue()->text == id.substr(0, id.find('\0'));
 }
 
 /// A TPM of version 1 has one word only.

@@ -14,11 +14,11 @@ namespace {
 /// The library's kilobytes, or bytes of the extended capacity, against the standard's bytes.
 bool CapacityAgrees(const Comparison& comparison) {
     const auto* capacity = std::get_if<std::uint64_t>(&comparison.library.value);
-    if (!comparison.standard || capacity == nullptr) {
+    if (!comparison.HasStandardValue() || capacity == nullptr) {
         return AgreeByKind(comparison);
     }
     const bool isInBytes = comparison.Raw() == 0;
-    return comparison.standard->plain.Number() == (isInBytes ? *capacity : *capacity * 1024);
+    return comparison.StandardValue()->plain.Number() == (isInBytes ? *capacity : *capacity * 1024);
 }
 
 constexpr Join kMemoryArray[] = {
@@ -42,7 +42,7 @@ bool IsSizeElsewhere(const Comparison& comparison) {
 /// Of a code that is read as flags no flag means what the code does.
 bool TechnologyFlagsAgree(const Comparison& comparison) {
     const auto* flags = std::get_if<std::uint64_t>(&comparison.library.value);
-    return flags == nullptr || (comparison.standard && *flags == 0);
+    return flags == nullptr || (comparison.HasStandardValue() && *flags == 0);
 }
 
 constexpr Cause kIdentifier = {ReasonId::deviceIdentifiers};
@@ -103,11 +103,12 @@ constexpr std::uint64_t kIsExtended = 0xFFFFFFFF;
 template <std::uint64_t ByteOfKilobyte>
 bool AddressAgrees(const Comparison& comparison) {
     const auto address = NumberIn(TextOf(comparison.library.value));
-    if (!comparison.standard || !address) {
+    if (!comparison.HasStandardValue() || !address) {
         return AgreeByKind(comparison);
     }
     const bool isInBytes = comparison.Raw() == kIsExtended;
-    return comparison.standard->plain.Number() == (isInBytes ? *address : *address * 1024 + ByteOfKilobyte);
+    return comparison.StandardValue()->plain.Number() ==
+           (isInBytes ? *address : *address * 1024 + ByteOfKilobyte);
 }
 
 bool OneIsExtended(const Comparison& comparison) {

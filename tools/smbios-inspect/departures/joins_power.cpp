@@ -87,7 +87,7 @@ constexpr Refusal kRefusedBefore2_2[] = {
 /// The word is the one of the library's own characteristics.
 bool SupplyWordAgrees(const Comparison& comparison) {
     const auto& characteristics = RecordIn<Structures::Type_39>(comparison).characteristics;
-    if (!comparison.standard) {
+    if (!comparison.HasStandardValue()) {
         return !comparison.HasLibraryValue();
     }
     const std::uint64_t mask = (std::uint64_t{1} << comparison.bitCount) - 1;
@@ -98,7 +98,8 @@ bool SupplyWordAgrees(const Comparison& comparison) {
 
 bool IsSameSupplyCode(const Comparison& comparison) {
     const auto& characteristics = RecordIn<Structures::Type_39>(comparison).characteristics;
-    return comparison.standard && (characteristics.value_or(0) & 0x3FFF) == (comparison.Raw() & 0x3FFF);
+    return comparison.HasStandardValue() &&
+           (characteristics.value_or(0) & 0x3FFF) == (comparison.Raw() & 0x3FFF);
 }
 
 constexpr Cause kOtherText = {ReasonId::otherText, IsSameSupplyCode};

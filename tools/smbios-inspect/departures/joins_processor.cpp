@@ -16,7 +16,7 @@ namespace {
 /// Sixteen digits, the most significant first; the standard shows the bytes.
 bool ProcessorIdAgrees(const Comparison& comparison) {
     const std::string digits = "0x" + std::string(TextOf(comparison.library.value));
-    return comparison.standard && NumberIn(digits) == comparison.Raw();
+    return comparison.HasStandardValue() && NumberIn(digits) == comparison.Raw();
 }
 
 bool IsListOfVoltages(const Comparison& comparison) {
@@ -87,11 +87,12 @@ constexpr Unpaired kProcessorUnpaired[] = {
 /// No type named but "Other", which has no name in the library's list.
 bool SramTypesAgree(const Comparison& comparison) {
     constexpr std::uint64_t kNamedTypes = 0x7E;
-    return AgreeByKind(comparison) && (comparison.Raw() & kNamedTypes) == 0;
+    return (comparison.Raw() & kNamedTypes) == 0 && AgreeByKind(comparison);
 }
 
 bool IsZero(const Comparison& comparison) {
-    return !comparison.HasLibraryValue() && comparison.standard && comparison.standard->plain.Number() == 0;
+    return !comparison.HasLibraryValue() && comparison.HasStandardValue() &&
+           comparison.StandardValue()->plain.Number() == 0;
 }
 
 /// The wide field is not read, or not there.

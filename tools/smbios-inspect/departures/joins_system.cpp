@@ -63,13 +63,14 @@ constexpr Refusal kFirmwareRefusals[] = {
 // Type 1
 
 bool IsUuidInOtherOrder(const Comparison& comparison) {
-    return comparison.HasLibraryValue() && comparison.standard && !HasNothing(*comparison.standard);
+    return comparison.HasLibraryValue() && comparison.HasStandardValue() &&
+           !HasNothing(*comparison.StandardValue());
 }
 
 bool UuidAgrees(const Comparison& comparison) {
     const std::string_view uuid = TextOf(comparison.library.value);
-    const bool hasNone = !comparison.standard || HasNothing(*comparison.standard);
-    return hasNone ? uuid.empty() : HaveSameLetters(uuid, comparison.standard->text);
+    const bool hasNone = !comparison.HasStandardValue() || HasNothing(*comparison.StandardValue());
+    return hasNone ? uuid.empty() : HaveSameLetters(uuid, comparison.StandardValue()->text);
 }
 
 constexpr Join kSystem[] = {
@@ -84,8 +85,8 @@ constexpr Refusal kSystemRefusals[] = {
 
 bool BoardFeaturesAgree(const Comparison& comparison) {
     const auto& flags = RecordIn<Structures::Type_2>(comparison).featureFlags;
-    if (!flags || !comparison.standard) {
-        return !flags && !comparison.standard;
+    if (!flags || !comparison.HasStandardValue()) {
+        return !flags && !comparison.HasStandardValue();
     }
     const unsigned bits = (flags->hostingBoard ? 0x01U : 0U) | (flags->requiresDaughterBoard ? 0x02U : 0U) |
                           (flags->removable ? 0x04U : 0U) | (flags->replaceable ? 0x08U : 0U) |
@@ -95,14 +96,14 @@ bool BoardFeaturesAgree(const Comparison& comparison) {
 
 bool ContainedHandlesAgree(const Comparison& comparison) {
     const auto& handles = RecordIn<Structures::Type_2>(comparison).containedObjectHandles;
-    if (!handles || !comparison.standard) {
-        return !handles && (!comparison.standard || HasNothing(*comparison.standard));
+    if (!handles || !comparison.HasStandardValue()) {
+        return !handles && (!comparison.HasStandardValue() || HasNothing(*comparison.StandardValue()));
     }
     const auto isSame = [](std::uint16_t handle, const Standard::Item& item) {
         return item.plain.Number() == handle;
     };
     return comparison.Raw() == handles->size() &&
-           std::ranges::equal(*handles, comparison.standard->items, isSame);
+           std::ranges::equal(*handles, comparison.StandardValue()->items, isSame);
 }
 
 constexpr Join kBoard[] = {
@@ -154,7 +155,7 @@ bool HasStructureType(const Comparison& comparison) {
 }
 
 bool ElementsAgree(const Comparison& comparison) {
-    if (!comparison.standard) {
+    if (!comparison.HasStandardValue()) {
         return !comparison.HasLibraryValue();
     }
     return AreSameElements(comparison) && (!comparison.HasLibraryValue() || !HasStructureType(comparison));

@@ -16,6 +16,7 @@
 #include "smbios-inspect/records/record_fields_processor.h"
 #include "smbios-inspect/records/record_fields_system.h"
 #include "smbios-inspect/records/record_json.h"
+#include "smbios-inspect/records/record_of.h"
 #include "smbios-inspect/records/record_text.h"
 #include "structures/decoded_types.h"
 
@@ -95,39 +96,40 @@ struct RecordReader {
         std::apply([](const auto&... field) { return std::array{TextShownBy<Record>(field)...}; }, kFields);
 
     template <class Field>
-    static const char* LabelOf(const Field& field) {
+    static constexpr const char* LabelOf(const Field& field) {
         if (field.label != kShownElsewhere) {
             return field.label;
         }
-        const auto* const shown =
+        const auto shown =
             std::ranges::find_if(kShownTexts, [&](const auto& each) { return each.Is(field.value); });
         return shown == kShownTexts.end() ? kShownElsewhere : shown->label;
     }
 
-    static const Record& RecordOf(const BaseStructure& decoder) {
-        return *dynamic_cast<const Decoder&>(decoder).GetRecord();
+    /// Of each field, in their order.
+    static constexpr auto Labels() {
+        return std::apply([](const auto&... field) { return std::array{LabelOf(field)...}; }, kFields);
     }
 
     static RecordFrame Frame(const BaseStructure& decoder) {
-        const Record& record = RecordOf(decoder);
+        const Record& record = RecordOf<Decoder>(decoder);
         return {record.handle, record.rawBytes, record.strings, record.error};
     }
 
-    static std::vector<LibraryField> Fields(const BaseStructure& decoder) {
-        const Record& record = RecordOf(decoder);
-        std::vector<LibraryField> fields;
-        fields.reserve(std::tuple_size_v<decltype(kFields)>);
-        ForEachField(kFields, [&](const auto& field) {
+    static void ReadFields(const BaseStructure& decoder, std::vector<LibraryField>& fields) {
+        static constexpr auto kLabels = Labels();
+        const Record& record = RecordOf<Decoder>(decoder);
+        fields.resize(kLabels.size());
+        ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
             const auto& value = record.*field.value;
             constexpr bool kIsTextField = kIsText<std::remove_cvref_t<decltype(value)>>;
-            fields.push_back({field.name, LabelOf(field), kIsTextField, ValueOf(value)});
+            fields[i] = {field.name, kLabels[i], kIsTextField, ValueOf(value)};
+            ++i;
         });
-        return fields;
     }
 
     /// As in the line where people find it, or by itself when there is none.
     static Lines LinesAt(const BaseStructure& decoder, std::size_t index) {
-        const Record& record = RecordOf(decoder);
+        const Record& record = RecordOf<Decoder>(decoder);
         const std::string_view label = LabelAt(index);
         Lines lines;
         ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
@@ -156,7 +158,7 @@ struct RecordReader {
     }
 
     static void WriteAt(const BaseStructure& decoder, std::size_t index, const char* name, JsonWriter& json) {
-        const Record& record = RecordOf(decoder);
+        const Record& record = RecordOf<Decoder>(decoder);
         ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
             if (i++ == index) {
                 RecordJson::WriteMember(json, name, record.*field.value);
@@ -168,7 +170,7 @@ struct RecordReader {
 struct Row {
     StructureTypes key;
     RecordFrame (*frame)(const BaseStructure& decoder);
-    std::vector<LibraryField> (*fields)(const BaseStructure& decoder);
+    void (*readFields)(const BaseStructure& decoder, std::vector<LibraryField>& fields);
     Lines (*lines)(const BaseStructure& decoder, std::size_t index);
     void (*write)(const BaseStructure& decoder, std::size_t index, const char* name, JsonWriter& json);
 };
@@ -177,7 +179,7 @@ template <class... Decoders>
 consteval std::array<Row, sizeof...(Decoders)> RowsOf(Structures::TypeList<Decoders...>) {
     return {{{Decoders::kKey,
               RecordReader<Decoders>::Frame,
-              RecordReader<Decoders>::Fields,
+              RecordReader<Decoders>::ReadFields,
               RecordReader<Decoders>::LinesAt,
               RecordReader<Decoders>::WriteAt}...}};
 }
@@ -194,8 +196,8 @@ RecordFrame FrameOf(StructureTypes key, const BaseStructure& decoder) {
     return RowOf(key).frame(decoder);
 }
 
-std::vector<LibraryField> LibraryFieldsOf(StructureTypes key, const BaseStructure& decoder) {
-    return RowOf(key).fields(decoder);
+void ReadLibraryFields(StructureTypes key, const BaseStructure& decoder, std::vector<LibraryField>& fields) {
+    RowOf(key).readFields(decoder, fields);
 }
 
 Lines LinesOfField(StructureTypes key, const BaseStructure& decoder, std::size_t index) {

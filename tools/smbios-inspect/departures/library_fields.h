@@ -48,8 +48,17 @@ struct RecordFrame {
 
 /// All its fields, in their order, valid while the record is. Order and names are the same for all records of
 /// a key.
-[[nodiscard]] std::vector<LibraryField> LibraryFieldsOf(Manager::Types::StructureTypes key,
-                                                        const Structures::BaseStructure& decoder);
+void ReadLibraryFields(Manager::Types::StructureTypes key,
+                       const Structures::BaseStructure& decoder,
+                       std::vector<LibraryField>& fields);
+
+/// The same in a list of their own.
+[[nodiscard]] inline std::vector<LibraryField> LibraryFieldsOf(Manager::Types::StructureTypes key,
+                                                               const Structures::BaseStructure& decoder) {
+    std::vector<LibraryField> fields;
+    ReadLibraryFields(key, decoder, fields);
+    return fields;
+}
 
 /// How people read field number `index` of it; none when there is nothing to read.
 [[nodiscard]] Lines LinesOfField(Manager::Types::StructureTypes key,

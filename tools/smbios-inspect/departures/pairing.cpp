@@ -16,34 +16,39 @@ StandardField FieldNamedLike(std::uint8_t type, std::string_view name) noexcept 
     return field;
 }
 
-}  // namespace
-
-Pair PairOf(std::uint8_t type, const LibraryField& field) noexcept {
-    const TypeJoins* joins = JoinsOf(type);
-    if (joins == nullptr) {
-        return {};
-    }
+Pair PairBy(const TypeJoins& joins, const LibraryField& field) noexcept {
     const std::string_view name = field.name;
-    if (const auto join = std::ranges::find(joins->joins, name, &Join::field); join != joins->joins.end()) {
-        return {FindStandardField(type, join->standard), join->rule, join->causes};
+    if (const auto join = std::ranges::find(joins.joins, name, &Join::field); join != joins.joins.end()) {
+        return {FindStandardField(joins.type, join->standard), join->rule, join->causes};
     }
-    if (std::ranges::find(joins->unpaired, name, &Unpaired::field) != joins->unpaired.end()) {
+    if (std::ranges::find(joins.unpaired, name, &Unpaired::field) != joins.unpaired.end()) {
         return {.isUnpaired = true};
     }
-    const StandardField standard = FieldNamedLike(type, name);
+    const StandardField standard = FieldNamedLike(joins.type, name);
     const bool isWord =
         field.isText && standard.row != nullptr && standard.row->form.kind == Standard::ValueKind::code;
     return {.standard = standard, .rule = isWord ? WordOfCode() : ByKind()};
 }
 
-const std::vector<Pair>& Pairings::Of(std::uint8_t type, std::span<const LibraryField> fields) {
-    std::vector<Pair>& pairs = pairs_[type];
-    if (pairs.empty()) {
-        std::vector<Pair> found;
-        for (const LibraryField& field : fields) {
-            found.push_back(PairOf(type, field));
-        }
-        pairs = std::move(found);
+}  // namespace
+
+RecordPairs PairsOf(std::uint8_t type, std::span<const LibraryField> fields) {
+    RecordPairs found;
+    found.pairs.resize(fields.size());
+    const TypeJoins* const joins = JoinsOf(type);
+    for (std::size_t i = 0; i < fields.size() && joins != nullptr; ++i) {
+        Pair& pair = found.pairs[i];
+        pair = PairBy(*joins, fields[i]);
+        pair.glance = GlanceFor(pair.rule, pair.standard);
+        found.hasStrings |= pair.IsKnown() && std::string_view(fields[i].name) == "strings";
+    }
+    return found;
+}
+
+const RecordPairs& Pairings::Of(std::uint8_t type, std::span<const LibraryField> fields) {
+    RecordPairs& pairs = pairs_[type];
+    if (pairs.pairs.empty()) {
+        pairs = PairsOf(type, fields);
     }
     return pairs;
 }

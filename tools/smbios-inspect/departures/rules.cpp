@@ -64,11 +64,19 @@ bool TextAgrees(std::string_view text, const Value& value) {
 }  // namespace
 
 std::uint64_t Comparison::Raw() const noexcept {
-    return row == nullptr ? 0 : Area().Qword(row->offset) & LowBits(static_cast<unsigned>(8 * row->width));
+    return row == nullptr ? 0 : Standard::NumberAt(structure, row->offset, row->width);
 }
 
 std::uint64_t Comparison::RawBits() const noexcept {
     return Raw() >> lowBit & LowBits(bitCount);
+}
+
+const std::optional<Value>& Comparison::StandardValue() const {
+    if (!isRead_) {
+        value_ = ReadStandardField(structure, standard_);
+        isRead_ = true;
+    }
+    return value_;
 }
 
 std::optional<Value> Comparison::Other(std::string_view name) const {
@@ -76,10 +84,10 @@ std::optional<Value> Comparison::Other(std::string_view name) const {
 }
 
 bool AgreeByKind(const Comparison& comparison) {
-    if (!comparison.standard) {
+    if (!comparison.HasStandardValue()) {
         return !comparison.HasLibraryValue();
     }
-    const Value& value = *comparison.standard;
+    const Value& value = *comparison.StandardValue();
     if (const auto* number = std::get_if<std::uint64_t>(&comparison.library.value)) {
         return NumberAgrees(*number, value, comparison);
     }
@@ -93,45 +101,46 @@ bool AgreeByKind(const Comparison& comparison) {
 }
 
 bool AgreeStrictly(const Comparison& comparison) {
-    const bool isMarker = comparison.standard && comparison.standard->plain.IsNothing();
+    const bool isMarker = comparison.HasStandardValue() && comparison.StandardValue()->plain.IsNothing();
     return isMarker ? !comparison.HasLibraryValue() : AgreeByKind(comparison);
 }
 
 bool AgreeAsBits(const Comparison& comparison) {
     const auto* number = std::get_if<std::uint64_t>(&comparison.library.value);
-    if (!comparison.standard || number == nullptr) {
-        return number == nullptr && (!comparison.standard || HasNothing(*comparison.standard));
+    if (!comparison.HasStandardValue() || number == nullptr) {
+        return number == nullptr &&
+               (!comparison.HasStandardValue() || HasNothing(*comparison.StandardValue()));
     }
     return *number == comparison.RawBits();
 }
 
 bool AgreeAsWordOfCode(const Comparison& comparison) {
     const std::string_view word = TextOf(comparison.library.value);
-    return comparison.standard ? WordAgrees(word, comparison.standard->text) : word.empty();
+    return comparison.HasStandardValue() ? WordAgrees(word, comparison.StandardValue()->text) : word.empty();
 }
 
 bool AgreeAsOnlyWord(const Comparison& comparison) {
-    const bool isOther = comparison.standard && comparison.standard->text == "Other";
+    const bool isOther = comparison.HasStandardValue() && comparison.StandardValue()->text == "Other";
     return isOther ? comparison.HasLibraryValue() : AgreeAsWordOfCode(comparison);
 }
 
 bool AgreeWordForWord(const Comparison& comparison) {
     const std::string_view word = TextOf(comparison.library.value);
     return AgreeAsWordOfCode(comparison) &&
-           (word.empty() || HaveSameLetters(word, comparison.standard->text));
+           (word.empty() || HaveSameLetters(word, comparison.StandardValue()->text));
 }
 
 bool AgreeInKilobytes(const Comparison& comparison) {
     const auto* kilobytes = std::get_if<std::uint64_t>(&comparison.library.value);
-    if (!comparison.standard || kilobytes == nullptr) {
+    if (!comparison.HasStandardValue() || kilobytes == nullptr) {
         return AgreeByKind(comparison);
     }
-    return comparison.standard->plain.Number() == *kilobytes * 1024;
+    return comparison.StandardValue()->plain.Number() == *kilobytes * 1024;
 }
 
 bool AgreeAsHexOfBytes(const Comparison& comparison) {
     const std::string_view text = TextOf(comparison.library.value);
-    if (!comparison.standard) {
+    if (!comparison.HasStandardValue()) {
         return text.empty();
     }
     return text.empty() ? comparison.Raw() == 0 : NumberIn(text) == comparison.Raw();

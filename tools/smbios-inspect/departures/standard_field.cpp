@@ -21,10 +21,14 @@ const FieldRow* RowNamed(std::string_view name, std::span<const FieldRow> rows) 
 /// Keeps the value of one field of the structure itself.
 class ValueKeeper final : public Standard::FieldVisitor {
 public:
-    explicit ValueKeeper(std::string_view name) noexcept : name_(name) {}
+    explicit ValueKeeper(const FieldRow& row) noexcept : row_(row) {}
+
+    [[nodiscard]] bool Wants(Standard::ValueKind kind) const noexcept override {
+        return kind == row_.form.kind;
+    }
 
     void Visit(const Standard::Field& field) override {
-        if (field.name == name_ && field.place.group.empty()) {
+        if (field.name == row_.name && field.place.group.empty()) {
             value_ = field.value;
         }
     }
@@ -32,7 +36,7 @@ public:
     [[nodiscard]] std::optional<Value> Take() { return std::move(value_); }
 
 private:
-    std::string_view name_;
+    const FieldRow& row_;
     std::optional<Value> value_;
 };
 
@@ -60,7 +64,7 @@ std::optional<Value> ReadStandardField(const Structure& structure, const Standar
         return std::nullopt;
     }
     if (field.isBehindGroup) {
-        ValueKeeper keeper(field.row->name);
+        ValueKeeper keeper(*field.row);
         Standard::VisitFields(structure, keeper);
         return keeper.Take();
     }

@@ -17,66 +17,75 @@ constexpr std::size_t kColumnGap = 2;
 std::size_t LabelWidth(const std::vector<FieldText>& fields) {
     std::size_t width = 0;
     for (const FieldText& field : fields) {
-        width = field.label.size() <= width ? width : std::max(width, DisplayWidth(field.label));
+        width = std::max(width, field.label.size());
     }
     return width;
 }
 
-/// Where there is no terminal: nothing is wrapped or coloured.
-void PrintPlainly(const std::vector<FieldText>& fields, std::size_t start, std::ostream& output) {
-    constexpr std::size_t kUsualPage = 2048;
-    std::string page;
-    page.reserve(kUsualPage);
-    for (const FieldText& field : fields) {
-        std::string_view label = field.label;
-        std::string_view mark = field.isMarked ? " *" : "";
-        for (const std::string& text : field.lines) {
-            page.append(kIndent, ' ').append(label).append(start - kIndent - label.size(), ' ');
-            AppendPrintable(text, page);
-            page += std::exchange(mark, "");
-            page.resize(WithoutTrailingBlanks(page).size());
-            page += '\n';
-            label = "";
-        }
-    }
-    output << page;
-}
-
 }  // namespace
 
-void PrintFields(const std::vector<FieldText>& fields, const OutputStyle& style, std::ostream& output) {
-    const std::size_t labelWidth = LabelWidth(fields);
-    const std::size_t start = kIndent + labelWidth + kColumnGap;
-    if (style.width == 0 && !style.colour) {
-        PrintPlainly(fields, start, output);
-        return;
-    }
+void FieldPrinter::Print(const std::vector<FieldText>& fields) {
+    page_.clear();
+    AppendFields(fields);
+    output_ << page_;
+}
+
+void FieldPrinter::PrintBlock(std::string_view heading, const std::vector<FieldText>& fields) {
+    page_.clear();
+    AppendEmphasised(heading, Emphasis::heading, style_, page_);
+    page_ += '\n';
+    AppendFields(fields);
+    output_ << page_;
+}
+
+void FieldPrinter::AppendFields(const std::vector<FieldText>& fields) {
+    const std::size_t start = kIndent + LabelWidth(fields) + kColumnGap;
+    const bool isPlain = style_.width == 0 && !style_.colour;
     for (const FieldText& field : fields) {
-        const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
-        std::string label = std::string(kIndent, ' ').append(field.label);
-        std::string_view mark = field.isMarked ? " *" : "";
-        for (const std::string& text : field.lines) {
-            const LabelledLines labelled =
-                BesideLabel(Printable(text).append(std::exchange(mark, "")), start, style.width);
-            if (labelled.isBelow && !label.empty()) {
-                output << label << '\n';
-                label.clear();
-            }
-            for (const std::string& line : labelled.lines) {
-                label.resize(labelled.indent, ' ');
-                output << WithoutTrailingBlanks(label + Emphasised(line, emphasis, style)) << '\n';
-                label.clear();
-            }
+        if (isPlain) {
+            AppendPlainly(field, start);
+        } else {
+            AppendWrapped(field, start);
         }
     }
 }
 
-void PrintFieldBlock(std::string_view heading,
-                     const std::vector<FieldText>& fields,
-                     const OutputStyle& style,
-                     std::ostream& output) {
-    output << Emphasised(heading, Emphasis::heading, style) << '\n';
-    PrintFields(fields, style, output);
+/// Where there is no terminal: nothing is wrapped or coloured.
+void FieldPrinter::AppendPlainly(const FieldText& field, std::size_t start) {
+    std::string_view label = field.label;
+    std::string_view mark = field.isMarked ? " *" : "";
+    for (const std::string& text : field.lines) {
+        const std::size_t begin = page_.size();
+        page_.append(start, ' ');
+        label.copy(&page_[begin + kIndent], label.size());
+        AppendPrintable(text, page_);
+        page_ += std::exchange(mark, "");
+        while (page_.ends_with(' ')) {
+            page_.pop_back();
+        }
+        page_ += '\n';
+        label = "";
+    }
+}
+
+void FieldPrinter::AppendWrapped(const FieldText& field, std::size_t start) {
+    const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
+    std::string label = std::string(kIndent, ' ').append(field.label);
+    std::string_view mark = field.isMarked ? " *" : "";
+    for (const std::string& text : field.lines) {
+        const LabelledLines labelled =
+            BesideLabel(Printable(text).append(std::exchange(mark, "")), start, style_.width);
+        if (labelled.isBelow && !label.empty()) {
+            page_.append(label) += '\n';
+            label.clear();
+        }
+        for (const std::string& line : labelled.lines) {
+            label.resize(labelled.indent, ' ');
+            AppendEmphasised(line, emphasis, style_, label);
+            page_.append(WithoutTrailingBlanks(label)) += '\n';
+            label.clear();
+        }
+    }
 }
 
 }  // namespace SMBIOS::Inspect

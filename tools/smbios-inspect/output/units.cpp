@@ -1,5 +1,7 @@
 #include "smbios-inspect/output/units.h"
 
+#include "smbios-inspect/output/copy_text.h"
+
 namespace SMBIOS::Inspect {
 
 std::string ByteSizeText(std::uint64_t bytes) {
@@ -12,13 +14,15 @@ std::string ByteSizeText(std::uint64_t bytes) {
     return std::to_string(bytes) + kUnits[unit];
 }
 
-std::string HexadecimalText(std::span<const std::uint8_t> bytes) {
+std::string HexadecimalText(std::span<const std::uint8_t> bytes, std::string_view separator) {
     constexpr char kDigits[] = "0123456789abcdef";
-    std::string text;
-    text.reserve(2 * bytes.size());
+    const std::size_t size = (2 + separator.size()) * bytes.size();
+    std::string text(bytes.empty() ? 0 : size - separator.size(), '\0');
+    char* place = text.data();
     for (const std::uint8_t byte : bytes) {
-        text += kDigits[byte >> 4];
-        text += kDigits[byte & 0x0F];
+        place = CopyText(place == text.data() ? "" : separator, place);
+        *place++ = kDigits[byte >> 4];
+        *place++ = kDigits[byte & 0x0F];
     }
     return text;
 }

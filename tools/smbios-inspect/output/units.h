@@ -4,6 +4,7 @@
 #include <limits>
 #include <span>
 #include <string>
+#include <string_view>
 #include <type_traits>
 
 // How values are written for people; an absent value is an empty text.
@@ -13,7 +14,8 @@ namespace SMBIOS::Inspect {
 [[nodiscard]] std::string ByteSizeText(std::uint64_t bytes);
 
 /// The bytes in lower-case hexadecimal, two digits a byte.
-[[nodiscard]] std::string HexadecimalText(std::span<const std::uint8_t> bytes);
+[[nodiscard]] std::string HexadecimalText(std::span<const std::uint8_t> bytes,
+                                          std::string_view separator = {});
 
 /// The number with its unit behind it.
 template <class Number>

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
-#include "smbios-inspect/output/field_block.h"
+#include "smbios-inspect/records/record_of.h"
 #include "smbios-inspect/records/record_writer.h"
 #include "smbios-inspect/records/structure_heading.h"
 #include "structures/decoded_types.h"
@@ -36,7 +37,7 @@ RecordWriter WriterFor(const FiledStructure& structure) {
 std::uint8_t TypeOf(const FiledStructure& structure) {
     const auto& [key, decoder] = structure;
     if (key == UnknownType::kKey) {
-        return dynamic_cast<const UnknownType&>(*decoder).GetRecord()->type;
+        return RecordOf<UnknownType>(*decoder).type;
     }
     return static_cast<std::uint8_t>(key);
 }
@@ -61,19 +62,20 @@ void WriteStructure(const FiledStructure& structure, JsonWriter& json) {
     json.EndObject();
 }
 
-std::size_t PrintStructure(const FiledStructure& structure,
-                           const OutputStyle& style,
-                           std::ostream& output,
-                           std::span<const std::string_view> marks) {
+std::size_t StructurePrinter::Print(const FiledStructure& structure,
+                                    std::span<const std::string_view> marks) {
     const RecordWriter writer = WriterFor(structure);
     const std::string heading = StructureHeading(TypeOf(structure), writer.rawBytes(*structure.second));
-    std::vector<FieldText> texts = writer.texts(*structure.second);
+    texts_.clear();
+    writer.texts(*structure.second, texts_);
     std::size_t markCount = 0;
-    for (FieldText& text : texts) {
-        text.isMarked = std::ranges::find(marks, text.label) != marks.end();
-        markCount += text.isMarked ? 1 : 0;
+    for (const std::string_view mark : marks) {
+        const auto text = std::ranges::find(texts_, mark, &FieldText::label);
+        if (text != texts_.end() && !std::exchange(text->isMarked, true)) {
+            ++markCount;
+        }
     }
-    PrintFieldBlock(heading, texts, style, output);
+    printer_.PrintBlock(heading, texts_);
     return markCount;
 }
 

@@ -6,8 +6,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "manager/decoded_table.h"
+#include "smbios-inspect/output/field_block.h"
 #include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/output/output_style.h"
 
@@ -29,11 +31,18 @@ using FiledStructure = Manager::FiledStructures::value_type;
 /// Key, type and record as an object.
 void WriteStructure(const FiledStructure& structure, JsonWriter& json);
 
-/// A heading and the fields of the record that have a value, one below the other; those with a label among
-/// `marks` are marked. Returns how many are.
-std::size_t PrintStructure(const FiledStructure& structure,
-                           const OutputStyle& style,
-                           std::ostream& output,
-                           std::span<const std::string_view> marks = {});
+/// Prints structures for people: a heading, and below it the fields of the record that have a value. Keeps
+/// the memory of one for the next.
+class StructurePrinter {
+public:
+    StructurePrinter(const OutputStyle& style, std::ostream& output) noexcept : printer_(style, output) {}
+
+    /// Lines with a label among `marks` are marked. Returns how many are.
+    std::size_t Print(const FiledStructure& structure, std::span<const std::string_view> marks = {});
+
+private:
+    FieldPrinter printer_;
+    std::vector<FieldText> texts_;
+};
 
 }  // namespace SMBIOS::Inspect

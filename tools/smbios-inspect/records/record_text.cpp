@@ -1,6 +1,8 @@
 #include "smbios-inspect/records/record_text.h"
 
+#include <array>
 #include <bit>
+#include <charconv>
 
 #include "common/format.h"
 #include "smbios-inspect/records/record_fields_system.h"
@@ -12,13 +14,7 @@ Lines RecordText::LinesOf(float number) {
 }
 
 Lines RecordText::LinesOf(const std::vector<std::uint8_t>& bytes) {
-    const std::string digits = HexadecimalText(bytes);
-    std::string line;
-    line.reserve(3 * bytes.size());
-    for (std::size_t i = 0; i < digits.size(); i += 2) {
-        line.append(i == 0 ? "" : " ").append(digits, i, 2);
-    }
-    return line.empty() ? Lines() : Lines{std::move(line)};
+    return bytes.empty() ? Lines() : Lines{HexadecimalText(bytes, " ")};
 }
 
 Lines RecordText::LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits) {
@@ -46,6 +42,17 @@ Lines RecordText::LinesOf(const Structures::Type3::Types::ContainedElements& ele
         lines.push_back("and " + std::to_string(more) + " past the end of the structure");
     }
     return lines;
+}
+
+std::string RecordText::WithNumber(std::string_view text, int number) {
+    std::array<char, 16> behind = {' ', '('};
+    char* end = std::to_chars(behind.data() + 2, behind.data() + behind.size() - 1, number).ptr;
+    *end++ = ')';
+    const auto size = static_cast<std::size_t>(end - behind.data());
+    std::string line;
+    line.reserve(text.size() + size);
+    line.append(text).append(behind.data(), size);
+    return line;
 }
 
 std::string_view RecordText::WordFor(int number, int other, int unknown) noexcept {

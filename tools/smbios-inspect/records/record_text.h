@@ -24,7 +24,14 @@ public:
     template <class Fields, class Record>
     [[nodiscard]] static std::vector<FieldText> Of(const Fields& fields, const Record& record) {
         std::vector<FieldText> texts;
-        texts.reserve(std::tuple_size_v<Fields>);
+        Append(fields, record, texts);
+        return texts;
+    }
+
+    /// The same behind what `texts` holds already.
+    template <class Fields, class Record>
+    static void Append(const Fields& fields, const Record& record, std::vector<FieldText>& texts) {
+        texts.reserve(texts.size() + std::tuple_size_v<Fields>);
         ForEachField(fields,
                      [&]<class Owner, class Value, class Form>(const Field<Owner, Value, Form>& field) {
                          if (field.label == kShownElsewhere) {
@@ -35,7 +42,6 @@ public:
                              texts.push_back({field.label, std::move(lines), std::is_same_v<Form, Failure>});
                          }
                      });
-        return texts;
     }
 
     [[nodiscard]] static Lines LinesOf(bool value) { return {value ? "yes" : "no"}; }
@@ -75,7 +81,11 @@ public:
     [[nodiscard]] static Lines LinesOf(const std::vector<Element>& elements) {
         Lines lines;
         for (const Element& element : elements) {
-            lines.push_back(Joined(LinesOf(element), ", "));
+            if constexpr (std::convertible_to<const Element&, std::string>) {
+                lines.push_back(element);
+            } else {
+                lines.push_back(Joined(LinesOf(element), ", "));
+            }
         }
         return lines;
     }
@@ -110,7 +120,7 @@ private:
     static Lines InForm(const Value& value, const Record&, Numbered) {
         Lines lines = LinesOf(value);
         for (std::size_t i = 0; i < lines.size(); ++i) {
-            lines[i] = std::to_string(i + 1) + (lines[i].empty() ? ":" : ": ") + lines[i];
+            lines[i].insert(0, std::to_string(i + 1) + (lines[i].empty() ? ":" : ": "));
         }
         return lines;
     }
@@ -159,11 +169,7 @@ private:
         if (text.empty()) {
             return LinesOf(code);
         }
-        std::string line(text);
-        if (number) {
-            line.append(" (").append(std::to_string(*number)).append(")");
-        }
-        return line;
+        return number ? Lines{WithNumber(text, *number)} : Lines{std::string(text)};
     }
 
     static std::string_view TextIn(std::string_view text) noexcept { return text; }
@@ -195,6 +201,9 @@ private:
         }
         return texts.empty() ? Lines() : Lines{Joined(texts, ", ")};
     }
+
+    /// "DDR4 (26)".
+    [[nodiscard]] static std::string WithNumber(std::string_view text, int number);
 
     /// The word for a code or a bit that has no text; empty for any other number.
     [[nodiscard]] static std::string_view WordFor(int number, int other, int unknown) noexcept;

@@ -13,7 +13,7 @@ namespace SMBIOS::Inspect {
 /// What there is to ask of the record of a decoder that has processed its structure.
 struct RecordWriter {
     void (*json)(const Structures::BaseStructure& decoder, JsonWriter& json);
-    std::vector<FieldText> (*texts)(const Structures::BaseStructure& decoder);
+    void (*texts)(const Structures::BaseStructure& decoder, std::vector<FieldText>& texts);
     const std::vector<std::uint8_t>& (*rawBytes)(const Structures::BaseStructure& decoder);
     const std::string& (*error)(const Structures::BaseStructure& decoder);
     std::uint8_t leastLength;  ///< of a structure that the decoder accepts

@@ -3,16 +3,12 @@
 #include "smbios-inspect/records/record_completeness.h"
 #include "smbios-inspect/records/record_fields.h"
 #include "smbios-inspect/records/record_json.h"
+#include "smbios-inspect/records/record_of.h"
 #include "smbios-inspect/records/record_text.h"
 #include "smbios-inspect/records/record_writer.h"
 
 // For the sources that describe records; see record_writer.h.
 namespace SMBIOS::Inspect {
-
-template <class Decoder>
-const auto& RecordOf(const Structures::BaseStructure& decoder) {
-    return *dynamic_cast<const Decoder&>(decoder).GetRecord();
-}
 
 template <class Decoder>
 RecordWriter WriterOf() {
@@ -23,8 +19,8 @@ RecordWriter WriterOf() {
         .json = [](const BaseStructure& decoder,
                    JsonWriter& json) { RecordJson::Write(json, RecordOf<Decoder>(decoder)); },
         .texts =
-            [](const BaseStructure& decoder) {
-                return RecordText::Of(AllFieldsOf<Record>(), RecordOf<Decoder>(decoder));
+            [](const BaseStructure& decoder, std::vector<FieldText>& texts) {
+                RecordText::Append(AllFieldsOf<Record>(), RecordOf<Decoder>(decoder), texts);
             },
         .rawBytes = [](const BaseStructure& decoder) -> const std::vector<std::uint8_t>& {
             return RecordOf<Decoder>(decoder).rawBytes;

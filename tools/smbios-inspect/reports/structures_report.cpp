@@ -12,8 +12,7 @@
 #include "manager/decoded_table.h"
 #include "manager/raw_table.h"
 #include "manager/structure_factory.h"
-#include "smbios-inspect/departures/find_departures.h"
-#include "smbios-inspect/departures/marks.h"
+#include "smbios-inspect/departures/mark_finder.h"
 #include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/output/text_layout.h"
 #include "smbios-inspect/records/decode_each.h"
@@ -22,8 +21,7 @@
 
 namespace SMBIOS::Inspect {
 
-using Departures::Marks;
-using Manager::DecodedTable;
+using Departures::MarkFinder;
 using Manager::Types::StructureTypes;
 using Structures::StructureFactory;
 
@@ -40,6 +38,13 @@ bool MayBeAskedFor(StructureTypes key, const Request& request) {
            });
 }
 
+/// Hands each structure to `visit`, one decoded at a time; those that are not asked for may be passed over.
+template <class Visitor>
+void VisitStructures(std::span<const std::uint8_t> rawTable, const Request& request, Visitor visit) {
+    DecodeEach(
+        rawTable, [&](StructureTypes key) { return MayBeAskedFor(key, request); }, visit);
+}
+
 void PrintAsJson(std::span<const std::uint8_t> rawTable, const Request& request, std::ostream& output) {
     const auto version = Manager::TableVersion::Of(rawTable, Manager::SmbiosVersionIndex::v2_0_0);
     JsonWriter json(output);
@@ -48,14 +53,11 @@ void PrintAsJson(std::span<const std::uint8_t> rawTable, const Request& request,
     json.Member("versionIndex", static_cast<int>(version.index));
     json.Name("structures");
     json.BeginArray();
-    DecodeEach(
-        rawTable,
-        [&](StructureTypes key) { return MayBeAskedFor(key, request); },
-        [&](const FiledStructure& structure) {
-            if (IsAskedFor(structure, request)) {
-                WriteStructure(structure, json);
-            }
-        });
+    VisitStructures(rawTable, request, [&](const FiledStructure& structure) {
+        if (IsAskedFor(structure, request)) {
+            WriteStructure(structure, json);
+        }
+    });
     json.EndArray();
     json.EndObject();
     json.EndLine();
@@ -87,23 +89,24 @@ void PrintDepartureNote(const DepartureCount& count,
     PrintSentence(note + ". See both with: smbios-inspect departures" + FromOption(request), style, output);
 }
 
-void PrintAsText(const DecodedTable& table,
-                 const Marks& marks,
+void PrintAsText(std::span<const std::uint8_t> rawTable,
                  const Request& request,
                  const OutputStyle& style,
                  std::ostream& output) {
+    MarkFinder finder(rawTable);
+    StructurePrinter printer(style, output);
     bool isFirst = true;
     DepartureCount count;
-    for (const FiledStructure& structure : table.structures) {
+    VisitStructures(rawTable, request, [&](const FiledStructure& structure) {
+        const std::span<const std::string_view> marks = finder.MarksOf(structure);
         if (IsAskedFor(structure, request)) {
-            const std::span<const std::string_view> labels = marks.Of(*structure.second);
             output << (isFirst ? "" : "\n");
-            const std::size_t marked = PrintStructure(structure, style, output, labels);
+            const std::size_t marked = printer.Print(structure, marks);
             count.marked += marked;
-            count.missing += labels.size() - marked;
+            count.missing += marks.size() - marked;
             isFirst = false;
         }
-    }
+    });
     if (isFirst) {
         output << "The table holds no " << (request.types.empty() ? "" : "such ") << "structure.\n";
     }
@@ -116,12 +119,9 @@ void ReportStructures(const Request& request, const OutputStyle& style, std::ost
     const std::vector<std::uint8_t> rawTable = Manager::ReadRawTable();
     if (request.json) {
         PrintAsJson(rawTable, request, output);
-        return;
+    } else {
+        PrintAsText(rawTable, request, style, output);
     }
-    const DecodedTable table = Manager::DecodeTable(rawTable);
-    Marks marks;
-    Departures::FindDepartures(rawTable, table, marks);
-    PrintAsText(table, marks, request, style, output);
 }
 
 }  // namespace SMBIOS::Inspect

@@ -40,6 +40,11 @@ struct FieldRow {
     Form form;
 };
 
+/// The number that a field's bytes are; of a field wider than eight bytes the first eight.
+[[nodiscard]] std::uint64_t NumberAt(const Structure& structure,
+                                     std::size_t offset,
+                                     std::size_t width) noexcept;
+
 /// A row read in a structure.
 struct Reading {
     const Structure& structure;
@@ -48,7 +53,7 @@ struct Reading {
 
     [[nodiscard]] std::size_t Offset() const noexcept { return base + row.offset; }
 
-    /// The field's number; of a field wider than eight bytes the first eight.
+    /// The field's number: those of the bits that are its own.
     [[nodiscard]] std::uint64_t Raw() const noexcept;
 };
 

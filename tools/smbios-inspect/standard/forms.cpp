@@ -19,12 +19,23 @@ constexpr std::uint64_t kUnknownWord = 0x8000;
 
 }  // namespace
 
-std::uint64_t Reading::Raw() const noexcept {
-    std::uint64_t value = structure.Area().Qword(Offset());
-    if (row.width < kQword) {
-        value &= (std::uint64_t{1} << (8 * row.width)) - 1;
+std::uint64_t NumberAt(const Structure& structure, std::size_t offset, std::size_t width) noexcept {
+    const Structures::FormattedArea area = structure.Area();
+    switch (width) {
+        case kByte:
+            return area.Byte(offset);
+        case kWord:
+            return area.Word(offset);
+        case kDword:
+            return area.Dword(offset);
+        default:
+            const std::uint64_t number = area.Qword(offset);
+            return width < kQword ? number & ((std::uint64_t{1} << (8 * width)) - 1) : number;
     }
-    value >>= row.form.lowBit;
+}
+
+std::uint64_t Reading::Raw() const noexcept {
+    const std::uint64_t value = NumberAt(structure, Offset(), row.width) >> row.form.lowBit;
     return row.form.bitCount < 64 ? value & ((std::uint64_t{1} << row.form.bitCount) - 1) : value;
 }
 

@@ -10,6 +10,7 @@ namespace SMBIOS::Inspect::Standard {
 namespace {
 
 constexpr std::size_t kHeaderSize = 4;
+constexpr std::size_t kUsualStrings = 4;
 
 std::string_view AsText(std::span<const std::uint8_t> bytes) noexcept {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
@@ -61,6 +62,7 @@ void TableWalk::TakeStrings(Structure& structure) {
         rest_ = rest_.subspan(2);
         return;
     }
+    structure.strings.reserve(kUsualStrings);
     while (!rest_.empty() && rest_.front() != 0) {
         const auto end = static_cast<std::size_t>(std::ranges::find(rest_, std::uint8_t{0}) - rest_.begin());
         structure.strings.push_back(AsText(rest_.first(end)));
