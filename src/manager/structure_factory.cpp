@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <cstdint>
 
 #include "structures/decoded_types.h"
 
@@ -35,19 +33,8 @@ static_assert(std::ranges::adjacent_find(kCreationTable, std::ranges::greater_eq
               "the list of decoders must ascend by their keys, without duplicates");
 static_assert(kCreationTable.back().type == UnknownType::kKey);
 
-/// Where the row of each type byte stands.
-constexpr auto kRowOfType = [] {
-    std::array<std::uint8_t, 256> rows{};
-    rows.fill(kCreationTable.size() - 1);
-    for (std::size_t i = 0; i < kCreationTable.size(); ++i) {
-        rows[static_cast<std::size_t>(kCreationTable[i].type)] = static_cast<std::uint8_t>(i);
-    }
-    return rows;
-}();
-
 const CreationRow& RowOf(StructureTypes type) noexcept {
-    const auto index = static_cast<std::size_t>(type);
-    return index < kRowOfType.size() ? kCreationTable[kRowOfType[index]] : kCreationTable.back();
+    return kCreationTable[DecoderIndexOf(type)];
 }
 
 }  // namespace

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
 #include "structures/type_0.h"
 #include "structures/type_1.h"
 #include "structures/type_11.h"
@@ -61,5 +65,20 @@ static_assert(DecodedTypes::kSize == 25);
 
 /// The same and the decoder of every other type, whose key is the last one.
 using AllDecoders = DecodedTypes::Append<UnknownType>;
+
+/// Where the decoder of each type byte stands in `AllDecoders`.
+inline constexpr auto kDecoderIndexes = []<class... Types>(TypeList<Types...>) {
+    std::array<std::uint8_t, 256> indexes{};
+    indexes.fill(sizeof...(Types) - 1);
+    std::uint8_t index = 0;
+    ((indexes[static_cast<std::uint8_t>(Types::kKey)] = index++), ...);
+    return indexes;
+}(AllDecoders());
+
+/// The same for a type or a key; that of `UnknownType` for any other number.
+[[nodiscard]] constexpr std::size_t DecoderIndexOf(StructureTypes type) noexcept {
+    const auto index = static_cast<std::size_t>(type);
+    return index < kDecoderIndexes.size() ? kDecoderIndexes[index] : AllDecoders::kSize - 1;
+}
 
 }  // namespace SMBIOS::Structures

@@ -26,13 +26,24 @@
 namespace SMBIOS::Tests {
 namespace {
 
-using Inspect::FieldText;
-using Inspect::Lines;
 using Inspect::OutputStyle;
 
+struct FieldText {
+    std::string label;
+    std::vector<std::string> lines;
+    bool isFailure = false;
+};
+
 std::string Block(const std::vector<FieldText>& fields, const OutputStyle& style) {
+    Inspect::FieldTexts texts;
+    for (const FieldText& field : fields) {
+        texts.BeginField(field.label, field.isFailure);
+        for (const std::string& line : field.lines) {
+            texts.AddLine(line);
+        }
+    }
     std::ostringstream output;
-    Inspect::FieldPrinter(style, output).PrintBlock("Heading", fields);
+    Inspect::FieldPrinter(style, output).PrintBlock("Heading", texts);
     return output.str();
 }
 
@@ -80,9 +91,7 @@ TEST(FiledStructure, LabelsStandInOneColumn) {
 }
 
 TEST(FiledStructure, LinesBehindTheFirstOneHaveNoLabel) {
-    Lines lines("1");
-    lines.push_back("2");
-    EXPECT_EQ(Block({{"Label", lines, false}}, {}),
+    EXPECT_EQ(Block({{"Label", {"1", "2"}}}, {}),
               "Heading\n"
               "  Label  1\n"
               "         2\n");

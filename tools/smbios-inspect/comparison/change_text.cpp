@@ -65,7 +65,7 @@ std::vector<ItemText> ItemsOf(const Side& side, const std::optional<KeptField>& 
 }
 
 /// Appends those of `items` that the others do not have, a sign in front of each.
-void AppendMissing(Lines& lines,
+void AppendMissing(std::vector<std::string>& lines,
                    const char* sign,
                    const std::vector<ItemText>& items,
                    const std::vector<ItemText>& others) {
@@ -83,14 +83,14 @@ void AppendMissing(Lines& lines,
     }
 }
 
-Lines ItemLines(const Comparison& comparison, const FieldChange& change) {
+std::vector<std::string> ItemLines(const Comparison& comparison, const FieldChange& change) {
     const auto items = ItemsOf(comparison.Before(), change.before, [&](Index target) {
         const Index partner = comparison.Pairs().AfterOf(target);
         return partner == kNoStructure ? "gone " + std::to_string(target) : std::to_string(partner);
     });
     const auto others =
         ItemsOf(comparison.After(), change.after, [](Index target) { return std::to_string(target); });
-    Lines lines;
+    std::vector<std::string> lines;
     AppendMissing(lines, "- ", items, others);
     AppendMissing(lines, "+ ", others, items);
     return lines;
@@ -142,9 +142,9 @@ bool IsListOfItems(const std::optional<KeptField>& field) noexcept {
     return field && field->value.isList && !field->value.isInLine;
 }
 
-Lines LinesOf(const Comparison& comparison, const FieldChange& change) {
+std::vector<std::string> LinesOf(const Comparison& comparison, const FieldChange& change) {
     if (IsListOfItems(change.before) || IsListOfItems(change.after)) {
-        if (Lines lines = ItemLines(comparison, change); !lines.empty()) {
+        if (std::vector<std::string> lines = ItemLines(comparison, change); !lines.empty()) {
             return lines;
         }
     }

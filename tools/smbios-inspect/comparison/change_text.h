@@ -5,14 +5,13 @@
 
 #include "smbios-inspect/comparison/comparison.h"
 #include "smbios-inspect/comparison/field_changes.h"
-#include "smbios-inspect/output/field_block.h"
 
 namespace SMBIOS::Inspect::Comparing {
 
 /// How a change reads: "Size", "8 GiB -> 16 GiB"; of a list what is gone and what has come, a line each.
 struct ChangeText {
     std::string label;
-    Lines lines;
+    std::vector<std::string> lines;
 };
 
 /// How the changes of a structure read. What has no label for people tells what another field tells as well,

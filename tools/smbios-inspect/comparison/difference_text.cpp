@@ -41,11 +41,14 @@ public:
 
     void PrintChanged(const std::string& title, const std::vector<ChangeText>& changes) const {
         PrintTitle(kChanged, title);
-        std::vector<FieldText> fields;
+        FieldTexts texts;
         for (const ChangeText& change : changes) {
-            fields.push_back({change.label.c_str(), change.lines, false});
+            texts.BeginField(change.label);
+            for (const std::string& line : change.lines) {
+                texts.AddLine(line);
+            }
         }
-        FieldPrinter(style_, output_).Print(fields);
+        FieldPrinter(style_, output_).Print(texts);
     }
 
     void PrintCounts(const Counts& counts) const {

@@ -59,8 +59,10 @@ public:
           frame_(FrameOf(library.key, library.decoder)),
           fields_(memory.fields),
           pairings_(memory.pairings),
+          told_(memory.told),
           visitor_(visitor) {
         ReadLibraryFields(library.key, library.decoder, fields_);
+        told_.clear();
     }
 
     void CompareAcceptance() {
@@ -110,13 +112,15 @@ private:
             Tell(index, pair.standard.row, nullptr, ReasonId::unexplained);
             return;
         }
-        const std::optional<Value>& standard = comparison.StandardValue();
-        Tell(index, pair.standard.row, standard ? &*standard : nullptr, ReasonOf(comparison, index, pair));
+        Tell(index, pair.standard.row, comparison.StandardValue(), ReasonOf(comparison, index, pair));
     }
 
     [[nodiscard]] bool AgreeAtOnce(const LibraryValue& value, const Pair& pair) const {
-        return pair.glance != nullptr && pair.standard.IsWithin(structure_) &&
-               pair.glance(value, {structure_, *pair.standard.row, 0});
+        if (pair.glance == nullptr) {
+            return false;
+        }
+        return pair.standard.IsWithin(structure_) ? pair.glance(value, {structure_, *pair.standard.row, 0})
+                                                  : IsNone(value);
     }
 
     /// The raw bytes are the structure's.
@@ -144,7 +148,7 @@ private:
     }
 
     [[nodiscard]] bool IsToldInSameLine(std::size_t index, const Pair& pair) const {
-        return std::ranges::any_of(told_, [&](const Told& told) {
+        return std::ranges::any_of(told_, [&](const ComparisonMemory::Told& told) {
             return told.row == pair.standard.row && told.label != nullptr &&
                    told.label == fields_[index].label;
         });
@@ -209,17 +213,12 @@ private:
                         reason});
     }
 
-    struct Told {
-        const Standard::FieldRow* row;
-        const char* label;
-    };
-
     const Structure& structure_;
     const LibraryStructure& library_;
     RecordFrame frame_;
     std::vector<LibraryField>& fields_;
     Pairings& pairings_;
-    std::vector<Told> told_;
+    std::vector<ComparisonMemory::Told>& told_;
     std::optional<NewestReading> newest_;  // made when it is asked for
     DepartureVisitor& visitor_;
 };

@@ -18,8 +18,15 @@ struct LibraryStructure {
 
 /// What the comparison of one structure leaves for that of the next.
 struct ComparisonMemory {
+    /// A departure that was told.
+    struct Told {
+        const Standard::FieldRow* row;
+        const char* label;
+    };
+
     Pairings pairings;
     std::vector<LibraryField> fields;
+    std::vector<Told> told;
 };
 
 /// Hands the values that depart to `visitor`. Of a code and its word, which people read in one line, it is

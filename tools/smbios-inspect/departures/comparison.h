@@ -40,13 +40,16 @@ public:
     const unsigned lowBit;
     const unsigned bitCount;
 
-    /// What the standard makes of the field, made when it is asked for; none when the structure ends before
+    /// What the standard makes of the field, made when it is asked for; null when the structure ends before
     /// the field does.
-    [[nodiscard]] const std::optional<Standard::Value>& StandardValue() const;
+    [[nodiscard]] const Standard::Value* StandardValue() const {
+        const FieldReading& reading = reading_ ? *reading_ : reading_.emplace(structure, standard_);
+        return reading.isThere ? &reading.value : nullptr;
+    }
 
     /// Whether there is one, which mostly is told without making it.
     [[nodiscard]] bool HasStandardValue() const {
-        return standard_.isBehindGroup ? StandardValue().has_value()
+        return standard_.isBehindGroup ? StandardValue() != nullptr
                                        : row != nullptr && standard_.IsWithin(structure);
     }
 
@@ -63,12 +66,11 @@ public:
     [[nodiscard]] std::uint64_t RawBits() const noexcept;
 
     /// Another field of the standard's description of the structure.
-    [[nodiscard]] std::optional<Standard::Value> Other(std::string_view name) const;
+    [[nodiscard]] FieldReading Other(std::string_view name) const;
 
 private:
     const StandardField& standard_;
-    mutable bool isRead_ = false;
-    mutable std::optional<Standard::Value> value_;
+    mutable std::optional<FieldReading> reading_;  // none before it is asked for
 };
 
 /// Whether two values agree.

@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "smbios-inspect/departures/library_fields.h"
+#include "smbios-inspect/output/field_block.h"
 #include "smbios-inspect/output/text_layout.h"
 #include "smbios-inspect/records/structure_heading.h"
 
@@ -42,10 +43,10 @@ void TextPrinter::Visit(const Departure& departure) {
         place_ = departure.structure.bytes.data();
         heading_ = StructureHeading(departure.structure.Type(), departure.structure.bytes);
     }
-    labels_.emplace_back(departure.label == nullptr ? departure.field : std::string_view(departure.label));
-    Lines& lines = values_.emplace_back("Firmware: " + FirmwareText(departure.standard));
-    lines.push_back("Library: " + LibraryText(departure));
-    lines.push_back("Reason: " + ReasonText(departure.reason));
+    texts_.BeginField(departure.label == nullptr ? departure.field : std::string_view(departure.label));
+    texts_.AddLine("Firmware: " + FirmwareText(departure.standard));
+    texts_.AddLine("Library: " + LibraryText(departure));
+    texts_.AddLine("Reason: " + ReasonText(departure.reason));
 }
 
 void TextPrinter::Finish() {
@@ -57,18 +58,13 @@ void TextPrinter::Finish() {
 }
 
 void TextPrinter::PrintBlock() {
-    if (values_.empty()) {
+    if (texts_.Lines().empty()) {
         return;
     }
-    std::vector<FieldText> fields;
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-        fields.push_back({.label = labels_[i], .lines = std::move(values_[i]), .isFailure = false});
-    }
     output_ << (isFirst_ ? "" : "\n");
-    FieldPrinter(style_, output_).PrintBlock(heading_, fields);
+    FieldPrinter(style_, output_).PrintBlock(heading_, texts_);
     isFirst_ = false;
-    labels_.clear();
-    values_.clear();
+    texts_.Clear();
 }
 
 }  // namespace SMBIOS::Inspect::Departures

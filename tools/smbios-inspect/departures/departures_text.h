@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "smbios-inspect/departures/departure.h"
-#include "smbios-inspect/output/field_block.h"
+#include "smbios-inspect/output/field_texts.h"
 #include "smbios-inspect/output/output_style.h"
 
 namespace SMBIOS::Inspect::Departures {
@@ -29,8 +29,7 @@ private:
     std::ostream& output_;
     const std::uint8_t* place_ = nullptr;  ///< of the structure in its table
     std::string heading_;
-    std::vector<std::string> labels_;
-    std::vector<Lines> values_;
+    FieldTexts texts_;
     bool isFirst_ = true;
 };
 

@@ -33,6 +33,10 @@ bool IsSameString(const LibraryValue& value, const Reading& reading) {
     return text.empty() ? IsNone(value) : TextOf(value) == text;
 }
 
+bool IsNeverPlain(const LibraryValue&, const Reading&) {
+    return false;
+}
+
 bool IsWordOfSameCode(const LibraryValue& value, const Reading& reading) {
     return WordAgrees(TextOf(value), Standard::WordsFor(reading.row.form.words, reading.Raw()));
 }
@@ -51,7 +55,10 @@ Glance GlanceFor(const Rule& rule, const StandardField& standard) noexcept {
     if (rule.agree == AgreeByKind && form.read == Standard::ReadString) {
         return IsSameString;
     }
-    return rule.agree == AgreeAsWordOfCode && form.read == Standard::ReadCode ? IsWordOfSameCode : nullptr;
+    if (rule.agree == AgreeAsWordOfCode && form.read == Standard::ReadCode) {
+        return IsWordOfSameCode;
+    }
+    return rule.agree == AgreeByKind || rule.agree == AgreeAsWordOfCode ? IsNeverPlain : nullptr;
 }
 
 }  // namespace SMBIOS::Inspect::Departures

@@ -18,26 +18,26 @@ bool ManufactureDateAgrees(const Comparison& comparison) {
     if (comparison.Raw() != 0) {
         return AgreeByKind(comparison);
     }
-    const auto date = comparison.Other("sbdsManufactureDate");
-    return TextOf(comparison.library.value) == (date ? std::string_view(date->text) : std::string_view());
+    const FieldReading date = comparison.Other("sbdsManufactureDate");
+    return TextOf(comparison.library.value) == std::string_view(date.value.text);
 }
 
 bool SerialNumberAgrees(const Comparison& comparison) {
     if (comparison.Raw() != 0) {
         return AgreeByKind(comparison);
     }
-    const auto number = comparison.Other("sbdsSerialNumber");
+    const FieldReading number = comparison.Other("sbdsSerialNumber");
     const auto given = NumberIn(TextOf(comparison.library.value));
-    return number ? given && given == number->plain.Number() : !comparison.HasLibraryValue();
+    return number.isThere ? given && given == number.value.plain.Number() : !comparison.HasLibraryValue();
 }
 
 bool ChemistryAgrees(const Comparison& comparison) {
     constexpr std::uint64_t kUnknown = 0x02;
-    const auto chemistry = comparison.Other("sbdsDeviceChemistry");
-    if (comparison.Raw() != kUnknown || !chemistry || HasNothing(*chemistry)) {
+    const FieldReading chemistry = comparison.Other("sbdsDeviceChemistry");
+    if (comparison.Raw() != kUnknown || !chemistry.isThere || HasNothing(chemistry.value)) {
         return AgreeAsWordOfCode(comparison);
     }
-    return HaveSameLetters(TextOf(comparison.library.value), chemistry->text);
+    return HaveSameLetters(TextOf(comparison.library.value), chemistry.value.text);
 }
 
 constexpr std::size_t kEndOfMultiplier = 0x16;

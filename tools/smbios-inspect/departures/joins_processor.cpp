@@ -1,4 +1,6 @@
 #include <bit>
+#include <charconv>
+#include <system_error>
 
 #include "smbios-inspect/departures/join.h"
 #include "smbios-inspect/standard/words_processor.h"
@@ -15,8 +17,11 @@ namespace {
 
 /// Sixteen digits, the most significant first; the standard shows the bytes.
 bool ProcessorIdAgrees(const Comparison& comparison) {
-    const std::string digits = "0x" + std::string(TextOf(comparison.library.value));
-    return comparison.HasStandardValue() && NumberIn(digits) == comparison.Raw();
+    const std::string_view digits = TextOf(comparison.library.value);
+    std::uint64_t number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number, 16);
+    const bool isNumber = error == std::errc() && end == digits.data() + digits.size();
+    return comparison.HasStandardValue() && isNumber && number == comparison.Raw();
 }
 
 bool IsListOfVoltages(const Comparison& comparison) {

@@ -62,7 +62,7 @@ inline constexpr bool kIsText =
 /// A text of a record that a field of it shows beside its own code, and that field's label.
 template <class Record>
 struct ShownText {
-    const char* label;
+    std::string_view label;
     std::string Record::*text = nullptr;
     std::optional<std::string> Record::*optionalText = nullptr;
 
@@ -96,8 +96,8 @@ struct RecordReader {
         std::apply([](const auto&... field) { return std::array{TextShownBy<Record>(field)...}; }, kFields);
 
     template <class Field>
-    static constexpr const char* LabelOf(const Field& field) {
-        if (field.label != kShownElsewhere) {
+    static constexpr std::string_view LabelOf(const Field& field) {
+        if (IsShown(field.label)) {
             return field.label;
         }
         const auto shown =
@@ -107,7 +107,7 @@ struct RecordReader {
 
     /// Of each field, in their order.
     static constexpr auto Labels() {
-        return std::apply([](const auto&... field) { return std::array{LabelOf(field)...}; }, kFields);
+        return std::apply([](const auto&... field) { return std::array{LabelOf(field).data()...}; }, kFields);
     }
 
     static RecordFrame Frame(const BaseStructure& decoder) {
@@ -122,39 +122,47 @@ struct RecordReader {
         ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
             const auto& value = record.*field.value;
             constexpr bool kIsTextField = kIsText<std::remove_cvref_t<decltype(value)>>;
-            fields[i] = {field.name, kLabels[i], kIsTextField, ValueOf(value)};
+            fields[i] = {field.name.data(), kLabels[i], kIsTextField, ValueOf(value)};
             ++i;
         });
     }
 
     /// As in the line where people find it, or by itself when there is none.
-    static Lines LinesAt(const BaseStructure& decoder, std::size_t index) {
+    static std::vector<std::string> LinesAt(const BaseStructure& decoder, std::size_t index) {
         const Record& record = RecordOf<Decoder>(decoder);
         const std::string_view label = LabelAt(index);
-        Lines lines;
+        FieldTexts texts;
         ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
-            const bool isItsLine = field.label != kShownElsewhere && field.label == label;
+            const bool isItsLine = IsShown(field.label) && field.label == label;
             if (isItsLine || (i == index && label.empty())) {
-                lines = isItsLine ? ShownLines(field, record) : RecordText::LinesOf(record.*field.value);
+                AppendLines(field, record, isItsLine, texts);
             }
             ++i;
         });
+        std::vector<std::string> lines;
+        for (std::size_t i = 0; i < texts.Lines().size(); ++i) {
+            lines.emplace_back(texts.Words(i));
+        }
         return lines;
     }
 
     static std::string_view LabelAt(std::size_t index) {
         std::string_view found;
         ForEachField(kFields, [&, i = std::size_t{0}](const auto& field) mutable {
-            const char* const label = i++ == index ? LabelOf(field) : kShownElsewhere;
-            found = label == kShownElsewhere ? found : std::string_view(label);
+            found = i++ == index ? LabelOf(field) : found;
         });
         return found;
     }
 
     template <class Field>
-    static Lines ShownLines(const Field& field, const Record& record) {
-        std::vector<FieldText> texts = RecordText::Of(std::tuple(field), record);
-        return texts.empty() ? RecordText::LinesOf(record.*field.value) : std::move(texts.front().lines);
+    static void AppendLines(const Field& field, const Record& record, bool isShown, FieldTexts& texts) {
+        texts.BeginField("");
+        if (isShown) {
+            RecordText::Append(std::tuple(field), record, texts);
+        }
+        if (!texts.HasLine()) {
+            RecordText::AppendLines(record.*field.value, texts);
+        }
     }
 
     static void WriteAt(const BaseStructure& decoder, std::size_t index, const char* name, JsonWriter& json) {
@@ -168,17 +176,15 @@ struct RecordReader {
 };
 
 struct Row {
-    StructureTypes key;
     RecordFrame (*frame)(const BaseStructure& decoder);
     void (*readFields)(const BaseStructure& decoder, std::vector<LibraryField>& fields);
-    Lines (*lines)(const BaseStructure& decoder, std::size_t index);
+    std::vector<std::string> (*lines)(const BaseStructure& decoder, std::size_t index);
     void (*write)(const BaseStructure& decoder, std::size_t index, const char* name, JsonWriter& json);
 };
 
 template <class... Decoders>
 consteval std::array<Row, sizeof...(Decoders)> RowsOf(Structures::TypeList<Decoders...>) {
-    return {{{Decoders::kKey,
-              RecordReader<Decoders>::Frame,
+    return {{{RecordReader<Decoders>::Frame,
               RecordReader<Decoders>::ReadFields,
               RecordReader<Decoders>::LinesAt,
               RecordReader<Decoders>::WriteAt}...}};
@@ -187,7 +193,7 @@ consteval std::array<Row, sizeof...(Decoders)> RowsOf(Structures::TypeList<Decod
 constexpr auto kRows = RowsOf(Structures::AllDecoders());
 
 const Row& RowOf(StructureTypes key) {
-    return *std::ranges::lower_bound(kRows, key, {}, &Row::key);
+    return kRows[Structures::DecoderIndexOf(key)];
 }
 
 }  // namespace
@@ -200,7 +206,7 @@ void ReadLibraryFields(StructureTypes key, const BaseStructure& decoder, std::ve
     RowOf(key).readFields(decoder, fields);
 }
 
-Lines LinesOfField(StructureTypes key, const BaseStructure& decoder, std::size_t index) {
+std::vector<std::string> LinesOfField(StructureTypes key, const BaseStructure& decoder, std::size_t index) {
     return RowOf(key).lines(decoder, index);
 }
 

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "manager/structure_types.h"
-#include "smbios-inspect/output/field_block.h"
 #include "smbios-inspect/output/json_writer.h"
 #include "structures/base_structure.h"
 
@@ -61,9 +60,9 @@ void ReadLibraryFields(Manager::Types::StructureTypes key,
 }
 
 /// How people read field number `index` of it; none when there is nothing to read.
-[[nodiscard]] Lines LinesOfField(Manager::Types::StructureTypes key,
-                                 const Structures::BaseStructure& decoder,
-                                 std::size_t index);
+[[nodiscard]] std::vector<std::string> LinesOfField(Manager::Types::StructureTypes key,
+                                                    const Structures::BaseStructure& decoder,
+                                                    std::size_t index);
 
 /// Writes it as a member of this name, an absent one as null.
 void WriteField(Manager::Types::StructureTypes key,

@@ -1,6 +1,5 @@
 #include "smbios-inspect/departures/rules.h"
 
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <variant>
@@ -71,16 +70,8 @@ std::uint64_t Comparison::RawBits() const noexcept {
     return Raw() >> lowBit & LowBits(bitCount);
 }
 
-const std::optional<Value>& Comparison::StandardValue() const {
-    if (!isRead_) {
-        value_ = ReadStandardField(structure, standard_);
-        isRead_ = true;
-    }
-    return value_;
-}
-
-std::optional<Value> Comparison::Other(std::string_view name) const {
-    return ReadStandardField(structure, FindStandardField(structure.Type(), name));
+FieldReading Comparison::Other(std::string_view name) const {
+    return {structure, FindStandardField(structure.Type(), name)};
 }
 
 bool AgreeByKind(const Comparison& comparison) {
@@ -158,12 +149,17 @@ bool HasNothing(const Value& value) {
 }
 
 bool HaveSameLetters(std::string_view one, std::string_view other) noexcept {
-    const auto skip = [](std::string_view& text) {
-        while (!text.empty() && std::isalnum(static_cast<unsigned char>(text.front())) == 0) {
+    const auto lower = [](char character) {
+        return 'A' <= character && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+    };
+    const auto isLetterOrDigit = [&](char character) {
+        return ('0' <= character && character <= '9') || ('a' <= lower(character) && lower(character) <= 'z');
+    };
+    const auto skip = [&](std::string_view& text) {
+        while (!text.empty() && !isLetterOrDigit(text.front())) {
             text.remove_prefix(1);
         }
     };
-    const auto lower = [](char character) { return std::tolower(static_cast<unsigned char>(character)); };
     for (skip(one), skip(other); !one.empty() && !other.empty(); skip(one), skip(other)) {
         if (lower(one.front()) != lower(other.front())) {
             return false;

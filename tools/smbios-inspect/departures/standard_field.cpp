@@ -21,7 +21,7 @@ const FieldRow* RowNamed(std::string_view name, std::span<const FieldRow> rows) 
 /// Keeps the value of one field of the structure itself.
 class ValueKeeper final : public Standard::FieldVisitor {
 public:
-    explicit ValueKeeper(const FieldRow& row) noexcept : row_(row) {}
+    ValueKeeper(const FieldRow& row, FieldReading& reading) noexcept : row_(row), reading_(reading) {}
 
     [[nodiscard]] bool Wants(Standard::ValueKind kind) const noexcept override {
         return kind == row_.form.kind;
@@ -29,15 +29,14 @@ public:
 
     void Visit(const Standard::Field& field) override {
         if (field.name == row_.name && field.place.group.empty()) {
-            value_ = field.value;
+            reading_.value = field.value;
+            reading_.isThere = true;
         }
     }
 
-    [[nodiscard]] std::optional<Value> Take() { return std::move(value_); }
-
 private:
     const FieldRow& row_;
-    std::optional<Value> value_;
+    FieldReading& reading_;
 };
 
 }  // namespace
@@ -59,19 +58,13 @@ StandardField FindStandardField(std::uint8_t type, std::string_view name) noexce
     return {};
 }
 
-std::optional<Value> ReadStandardField(const Structure& structure, const StandardField& field) {
-    if (field.row == nullptr) {
-        return std::nullopt;
-    }
+FieldReading::FieldReading(const Structure& structure, const StandardField& field)
+    : isThere(field.row != nullptr && !field.isBehindGroup && field.IsWithin(structure)),
+      value(isThere ? field.row->form.read({structure, *field.row, 0}) : Value()) {
     if (field.isBehindGroup) {
-        ValueKeeper keeper(*field.row);
+        ValueKeeper keeper(*field.row, *this);
         Standard::VisitFields(structure, keeper);
-        return keeper.Take();
     }
-    if (!field.IsWithin(structure)) {
-        return std::nullopt;
-    }
-    return field.row->form.read({structure, *field.row, 0});
 }
 
 }  // namespace SMBIOS::Inspect::Departures

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 #include "smbios-inspect/standard/description.h"
@@ -22,8 +21,12 @@ struct StandardField {
 /// The field that programs know by this name; the structure's own ones only, none of its lists.
 [[nodiscard]] StandardField FindStandardField(std::uint8_t type, std::string_view name) noexcept;
 
-/// What the standard makes of it; none when there is no such field or the structure ends before it does.
-[[nodiscard]] std::optional<Standard::Value> ReadStandardField(const Standard::Structure& structure,
-                                                               const StandardField& field);
+/// What the standard makes of a field of a structure.
+struct FieldReading {
+    FieldReading(const Standard::Structure& structure, const StandardField& field);
+
+    bool isThere;           ///< there is such a field, and the structure does not end before it does
+    Standard::Value value;  ///< without anything where it is not
+};
 
 }  // namespace SMBIOS::Inspect::Departures

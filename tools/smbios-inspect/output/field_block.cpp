@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <ostream>
 #include <string>
-#include <utility>
 
 #include "smbios-inspect/output/text_layout.h"
 
@@ -13,79 +12,79 @@ namespace {
 
 constexpr std::size_t kIndent = 2;
 constexpr std::size_t kColumnGap = 2;
+constexpr std::string_view kMark = " *";
 
-std::size_t LabelWidth(const std::vector<FieldText>& fields) {
+std::size_t LabelWidth(const FieldTexts& texts) {
     std::size_t width = 0;
-    for (const FieldText& field : fields) {
-        width = std::max(width, field.label.size());
+    for (const FieldTexts::Line& line : texts.Lines()) {
+        width = std::max(width, line.label.size());
     }
     return width;
 }
 
 }  // namespace
 
-void FieldPrinter::Print(const std::vector<FieldText>& fields) {
-    page_.clear();
-    AppendFields(fields);
-    output_ << page_;
+void FieldPrinter::Print(const FieldTexts& texts) {
+    AppendFields(texts);
+    HandOver();
 }
 
-void FieldPrinter::PrintBlock(std::string_view heading, const std::vector<FieldText>& fields) {
-    page_.clear();
+void FieldPrinter::PrintBlock(std::string_view heading, const FieldTexts& texts) {
     AppendEmphasised(heading, Emphasis::heading, style_, page_);
-    page_ += '\n';
-    AppendFields(fields);
-    output_ << page_;
+    page_.Append('\n');
+    AppendFields(texts);
+    HandOver();
 }
 
-void FieldPrinter::AppendFields(const std::vector<FieldText>& fields) {
-    const std::size_t start = kIndent + LabelWidth(fields) + kColumnGap;
+void FieldPrinter::AppendFields(const FieldTexts& texts) {
+    const std::size_t start = kIndent + LabelWidth(texts) + kColumnGap;
     const bool isPlain = style_.width == 0 && !style_.colour;
-    for (const FieldText& field : fields) {
+    for (std::size_t i = 0; i < texts.Lines().size(); ++i) {
         if (isPlain) {
-            AppendPlainly(field, start);
+            AppendPlainly(texts.Lines()[i], texts.Words(i), start);
         } else {
-            AppendWrapped(field, start);
+            AppendWrapped(texts.Lines()[i], texts.Words(i), start);
         }
     }
 }
 
 /// Where there is no terminal: nothing is wrapped or coloured.
-void FieldPrinter::AppendPlainly(const FieldText& field, std::size_t start) {
-    std::string_view label = field.label;
-    std::string_view mark = field.isMarked ? " *" : "";
-    for (const std::string& text : field.lines) {
-        const std::size_t begin = page_.size();
-        page_.append(start, ' ');
-        label.copy(&page_[begin + kIndent], label.size());
-        AppendPrintable(text, page_);
-        page_ += std::exchange(mark, "");
-        while (page_.ends_with(' ')) {
-            page_.pop_back();
-        }
-        page_ += '\n';
-        label = "";
+void FieldPrinter::AppendPlainly(const FieldTexts::Line& line, std::string_view words, std::size_t start) {
+    const std::size_t begin = page_.Size();
+    page_.AppendBlanks(start);
+    if (line.isFirst) {
+        page_.Overwrite(begin + kIndent, line.label);
+    }
+    AppendPrintable(words, page_);
+    if (line.isMarked) {
+        page_.Append(kMark);
+    }
+    page_.CutTrailingBlanks();
+    page_.Append('\n');
+}
+
+void FieldPrinter::AppendWrapped(const FieldTexts::Line& line, std::string_view words, std::size_t start) {
+    const Emphasis emphasis = line.isFailure ? Emphasis::failure : Emphasis::none;
+    const std::string text = Printable(words).append(line.isMarked ? kMark : "");
+    const LabelledLines labelled = BesideLabel(text, start, style_.width);
+    std::string label(line.isFirst ? kIndent : 0, ' ');
+    label += line.isFirst ? line.label : "";
+    if (labelled.isBelow && !label.empty()) {
+        page_.Append(label);
+        page_.Append('\n');
+        label.clear();
+    }
+    for (const std::string& each : labelled.lines) {
+        label.resize(labelled.indent, ' ');
+        page_.Append(WithoutTrailingBlanks(label + Emphasised(each, emphasis, style_)));
+        page_.Append('\n');
+        label.clear();
     }
 }
 
-void FieldPrinter::AppendWrapped(const FieldText& field, std::size_t start) {
-    const Emphasis emphasis = field.isFailure ? Emphasis::failure : Emphasis::none;
-    std::string label = std::string(kIndent, ' ').append(field.label);
-    std::string_view mark = field.isMarked ? " *" : "";
-    for (const std::string& text : field.lines) {
-        const LabelledLines labelled =
-            BesideLabel(Printable(text).append(std::exchange(mark, "")), start, style_.width);
-        if (labelled.isBelow && !label.empty()) {
-            page_.append(label) += '\n';
-            label.clear();
-        }
-        for (const std::string& line : labelled.lines) {
-            label.resize(labelled.indent, ' ');
-            AppendEmphasised(line, emphasis, style_, label);
-            page_.append(WithoutTrailingBlanks(label)) += '\n';
-            label.clear();
-        }
-    }
+void FieldPrinter::HandOver() {
+    output_ << page_.Text();
+    page_.Clear();
 }
 
 }  // namespace SMBIOS::Inspect

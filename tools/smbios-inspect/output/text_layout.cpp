@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <ostream>
 
-#include "smbios-inspect/output/eight_bytes.h"
 #include "smbios-inspect/output/utf8.h"
 
 namespace SMBIOS::Inspect {
@@ -33,12 +32,6 @@ bool IsLayoutControl(std::string_view character) noexcept {
 bool IsControl(std::string_view character) noexcept {
     const std::uint8_t first = ByteOf(character.front());
     return first < 0x20 || IsDeleteOrC1(character) || IsLayoutControl(character);
-}
-
-/// Number of characters of ASCII at the start of `text` that are no controls.
-std::size_t PlainLength(std::string_view text) noexcept {
-    const auto isPlain = [](char character) { return ' ' <= character && character <= '~'; };
-    return LengthOfKind(text, ArePrintableAscii, isPlain);
 }
 
 /// Where the character behind the first `count` ones begins; the end of `text` when there is none.
@@ -103,25 +96,20 @@ std::string_view EscapeSequenceFor(Emphasis emphasis) noexcept {
 
 }  // namespace
 
-std::string Printable(std::string_view text) {
-    std::string printable;
-    AppendPrintable(text, printable);
-    return printable;
-}
-
-void AppendPrintable(std::string_view text, std::string& line) {
-    for (;;) {
-        const std::size_t plain = PlainLength(text);
-        line += text.substr(0, plain);
-        text.remove_prefix(plain);
-        if (text.empty()) {
-            return;
-        }
+void AppendReplaced(std::string_view text, TextPage& page) {
+    while (!text.empty()) {
         const auto [length, isWhole] = StartOf(text);
         const bool isShown = isWhole && !IsControl(text.substr(0, length));
-        line += isShown ? text.substr(0, length) : kReplacementCharacter;
+        page.Append(isShown ? text.substr(0, length) : kReplacementCharacter);
         text.remove_prefix(isWhole ? length : 1);
+        text.remove_prefix(page.AppendPrintableAscii(text));
     }
+}
+
+std::string Printable(std::string_view text) {
+    TextPage page;
+    AppendPrintable(text, page);
+    return std::string(page.Text());
 }
 
 std::size_t DisplayWidth(std::string_view text) noexcept {
@@ -174,18 +162,20 @@ LabelledLines BesideLabel(std::string_view text, std::size_t start, std::size_t 
 }
 
 std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style) {
-    std::string emphasised;
-    AppendEmphasised(text, emphasis, style, emphasised);
-    return emphasised;
+    if (!style.colour) {
+        return std::string(text);
+    }
+    TextPage page;
+    AppendEmphasised(text, emphasis, style, page);
+    return std::string(page.Text());
 }
 
-void AppendEmphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style, std::string& line) {
+void AppendEmphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style, TextPage& page) {
     constexpr std::string_view kPlain = "\x1B[0m";
-    if (!style.colour || text.empty() || emphasis == Emphasis::none) {
-        line += text;
-        return;
-    }
-    line.append(EscapeSequenceFor(emphasis)).append(text).append(kPlain);
+    const bool isPlain = !style.colour || text.empty() || emphasis == Emphasis::none;
+    page.Append(isPlain ? std::string_view() : EscapeSequenceFor(emphasis));
+    page.Append(text);
+    page.Append(isPlain ? std::string_view() : kPlain);
 }
 
 void PrintSentence(std::string_view text, const OutputStyle& style, std::ostream& output) {

@@ -8,16 +8,25 @@
 #include <vector>
 
 #include "smbios-inspect/output/output_style.h"
+#include "smbios-inspect/output/text_page.h"
 
 // How any text is laid out for a terminal.
 namespace SMBIOS::Inspect {
+
+/// The same as `AppendPrintable`, for a text that does not begin with a printable character of ASCII.
+void AppendReplaced(std::string_view text, TextPage& page);
 
 /// `text` made safe for a terminal: control characters, those that end a line or turn the direction of the
 /// text, and bytes that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::string Printable(std::string_view text);
 
-/// The same behind what `line` holds already.
-void AppendPrintable(std::string_view text, std::string& line);
+/// The same at the end of a page.
+inline void AppendPrintable(std::string_view text, TextPage& page) {
+    const std::size_t plain = page.AppendPrintableAscii(text);
+    if (plain < text.size()) {
+        AppendReplaced(text.substr(plain), page);
+    }
+}
 
 /// Number of terminal columns that printable UTF-8 takes, one for each character.
 [[nodiscard]] std::size_t DisplayWidth(std::string_view text) noexcept;
@@ -52,8 +61,8 @@ enum class Emphasis : std::uint8_t { none, heading, warning, failure, added, rem
 /// `text` in the emphasis's colour, if the style has colours.
 [[nodiscard]] std::string Emphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style);
 
-/// The same behind what `line` holds already.
-void AppendEmphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style, std::string& line);
+/// The same at the end of a page.
+void AppendEmphasised(std::string_view text, Emphasis emphasis, const OutputStyle& style, TextPage& page);
 
 /// Prints a sentence, which may come from the firmware, on as many lines as it takes.
 void PrintSentence(std::string_view text, const OutputStyle& style, std::ostream& output);

@@ -1,23 +1,29 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <tuple>
-
-#include "smbios-inspect/output/field_block.h"
 
 // The vocabulary in which records are described: one line a field, read by every writer.
 namespace SMBIOS::Inspect {
 
 /// The label of a field that people find in the words of another one, or not at all.
-inline constexpr const char* kShownElsewhere = nullptr;
+inline constexpr std::string_view kShownElsewhere;
 
 /// The label of a field in a part of a record whose words need none.
-inline constexpr const char* kNoLabel = "";
+inline constexpr std::string_view kNoLabel = "";
+
+/// Whether a field with this label has lines of its own.
+[[nodiscard]] constexpr bool IsShown(std::string_view label) noexcept {
+    return label.data() != nullptr;
+}
 
 /// No code and no bit has this number.
 inline constexpr int kNoCode = -1;
 
-/// How people read a value. A function that takes the record and returns `Lines` is a form too.
+/// How people read a value. A function that takes the record and returns the words is a form too; there are
+/// none in an empty text.
 struct Plainly {};
 struct InHexadecimal {};
 struct Numbered {};  ///< a line an element, with its number from 1 on
@@ -60,15 +66,15 @@ NamedBy(Text Record::*, int, int) -> NamedBy<Record, Text>;
 /// One field of a record: its name in programs, its label for people, where it is and how people read it.
 template <class Record, class Value, class Form>
 struct Field {
-    const char* name;
-    const char* label;
+    std::string_view name;
+    std::string_view label;
     Value Record::*value;
     Form form = {};
 };
 template <class Record, class Value>
-Field(const char*, const char*, Value Record::*) -> Field<Record, Value, Plainly>;
+Field(std::string_view, std::string_view, Value Record::*) -> Field<Record, Value, Plainly>;
 template <class Record, class Value, class Form>
-Field(const char*, const char*, Value Record::*, Form) -> Field<Record, Value, Form>;
+Field(std::string_view, std::string_view, Value Record::*, Form) -> Field<Record, Value, Form>;
 
 /// Its specialisation for a record has `kFields`: a tuple of the record's own fields in the order in which it
 /// declares them.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 #include "smbios-inspect/records/record_of.h"
 #include "smbios-inspect/records/record_writer.h"
@@ -16,20 +15,15 @@ using Structures::UnknownType;
 
 namespace {
 
-struct WriterRow {
-    StructureTypes key;
-    RecordWriter (*writer)();
-};
-
 template <class... Decoders>
-consteval std::array<WriterRow, sizeof...(Decoders)> WritersOf(Structures::TypeList<Decoders...>) {
-    return {{{Decoders::kKey, WriterOf<Decoders>}...}};
+consteval std::array<RecordWriter (*)(), sizeof...(Decoders)> WritersOf(Structures::TypeList<Decoders...>) {
+    return {{WriterOf<Decoders>...}};
 }
 
 constexpr auto kWriters = WritersOf(Structures::AllDecoders());
 
 RecordWriter WriterFor(const FiledStructure& structure) {
-    return std::ranges::lower_bound(kWriters, structure.first, {}, &WriterRow::key)->writer();
+    return kWriters[Structures::DecoderIndexOf(structure.first)]();
 }
 
 }  // namespace
@@ -65,17 +59,15 @@ void WriteStructure(const FiledStructure& structure, JsonWriter& json) {
 std::size_t StructurePrinter::Print(const FiledStructure& structure,
                                     std::span<const std::string_view> marks) {
     const RecordWriter writer = WriterFor(structure);
-    const std::string heading = StructureHeading(TypeOf(structure), writer.rawBytes(*structure.second));
-    texts_.clear();
+    heading_.Clear();
+    AppendStructureHeading(TypeOf(structure), writer.rawBytes(*structure.second), heading_);
+    texts_.Clear();
     writer.texts(*structure.second, texts_);
     std::size_t markCount = 0;
     for (const std::string_view mark : marks) {
-        const auto text = std::ranges::find(texts_, mark, &FieldText::label);
-        if (text != texts_.end() && !std::exchange(text->isMarked, true)) {
-            ++markCount;
-        }
+        markCount += texts_.Mark(mark) ? 1 : 0;
     }
-    printer_.PrintBlock(heading, texts_);
+    printer_.PrintBlock(heading_.Text(), texts_);
     return markCount;
 }
 

@@ -6,12 +6,13 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "manager/decoded_table.h"
 #include "smbios-inspect/output/field_block.h"
+#include "smbios-inspect/output/field_texts.h"
 #include "smbios-inspect/output/json_writer.h"
 #include "smbios-inspect/output/output_style.h"
+#include "smbios-inspect/output/text_page.h"
 
 namespace SMBIOS::Inspect {
 
@@ -42,7 +43,8 @@ public:
 
 private:
     FieldPrinter printer_;
-    std::vector<FieldText> texts_;
+    TextPage heading_;
+    FieldTexts texts_;
 };
 
 }  // namespace SMBIOS::Inspect

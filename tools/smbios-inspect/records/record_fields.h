@@ -11,7 +11,7 @@
 namespace SMBIOS::Inspect {
 
 /// The raw bytes of a structure that could not be decoded: nothing else tells what it holds.
-[[nodiscard]] Lines RawBytesOfFailure(const Structures::StructureRecord& record);
+[[nodiscard]] std::string RawBytesOfFailure(const Structures::StructureRecord& record);
 
 /// The fields in front of a record's own ones.
 inline constexpr std::tuple kFirstFields{

@@ -7,9 +7,8 @@
 
 namespace SMBIOS::Inspect {
 
-Lines VendorIdText(const Structures::Type43::Types::Type43Struct& record) {
-    const std::size_t last = record.vendorId.find_last_not_of('\0');
-    return last == std::string::npos ? Lines() : Lines{record.vendorId.substr(0, last + 1)};
+std::string VendorIdText(const Structures::Type43::Types::Type43Struct& record) {
+    return record.vendorId.substr(0, record.vendorId.find_last_not_of('\0') + 1);
 }
 
 template RecordWriter WriterOf<Structures::Type_8>();

@@ -13,7 +13,7 @@
 namespace SMBIOS::Inspect {
 
 /// Without the NULs that fill up a shorter name.
-[[nodiscard]] Lines VendorIdText(const Structures::Type43::Types::Type43Struct& record);
+[[nodiscard]] std::string VendorIdText(const Structures::Type43::Types::Type43Struct& record);
 
 template <>
 struct Description<Structures::Type8::Types::Type8Struct> {

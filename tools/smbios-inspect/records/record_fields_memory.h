@@ -15,14 +15,14 @@
 namespace SMBIOS::Inspect {
 
 /// Sizes that count kilobytes or bytes, as the firmware does.
-[[nodiscard]] Lines MaximumCapacityText(const Structures::Type16::Types::Type16Struct& record);
-[[nodiscard]] Lines DeviceSizeText(const Structures::Type17::Types::Type17Struct& record);
+[[nodiscard]] std::string MaximumCapacityText(const Structures::Type16::Types::Type16Struct& record);
+[[nodiscard]] std::string DeviceSizeText(const Structures::Type17::Types::Type17Struct& record);
 
 /// Addresses that count kilobytes or bytes, likewise.
-[[nodiscard]] Lines ArrayStartText(const Structures::Type19::Types::Type19Struct& record);
-[[nodiscard]] Lines ArrayEndText(const Structures::Type19::Types::Type19Struct& record);
-[[nodiscard]] Lines DeviceStartText(const Structures::Type20::Types::Type20Struct& record);
-[[nodiscard]] Lines DeviceEndText(const Structures::Type20::Types::Type20Struct& record);
+[[nodiscard]] std::string ArrayStartText(const Structures::Type19::Types::Type19Struct& record);
+[[nodiscard]] std::string ArrayEndText(const Structures::Type19::Types::Type19Struct& record);
+[[nodiscard]] std::string DeviceStartText(const Structures::Type20::Types::Type20Struct& record);
+[[nodiscard]] std::string DeviceEndText(const Structures::Type20::Types::Type20Struct& record);
 
 template <>
 struct Description<Structures::Type16::Types::Type16Struct> {

@@ -6,15 +6,15 @@
 
 namespace SMBIOS::Inspect {
 
-Lines CacheLevelText(const Structures::Type7::Types::Type7Struct& record) {
-    return {"L" + std::to_string(record.cacheLevel + 1)};
+std::string CacheLevelText(const Structures::Type7::Types::Type7Struct& record) {
+    return "L" + std::to_string(record.cacheLevel + 1);
 }
 
-Lines CacheLocationText(const Structures::Type7::Types::Type7Struct& record) {
+std::string CacheLocationText(const Structures::Type7::Types::Type7Struct& record) {
     if (!record.cacheLocation) {
         return {};
     }
-    return {*record.cacheLocation == 0 ? "Internal (0)" : "External (1)"};
+    return *record.cacheLocation == 0 ? "Internal (0)" : "External (1)";
 }
 
 template RecordWriter WriterOf<Structures::Type_4>();

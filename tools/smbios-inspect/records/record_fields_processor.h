@@ -10,8 +10,8 @@
 namespace SMBIOS::Inspect {
 
 /// "L1": the record counts from 0.
-[[nodiscard]] Lines CacheLevelText(const Structures::Type7::Types::Type7Struct& record);
-[[nodiscard]] Lines CacheLocationText(const Structures::Type7::Types::Type7Struct& record);
+[[nodiscard]] std::string CacheLevelText(const Structures::Type7::Types::Type7Struct& record);
+[[nodiscard]] std::string CacheLocationText(const Structures::Type7::Types::Type7Struct& record);
 
 template <>
 struct Description<Structures::Type4::Types::Type4Struct> {

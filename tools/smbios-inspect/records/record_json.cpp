@@ -29,7 +29,7 @@ void RecordJson::Write(JsonWriter& json, const Common::Dynamic_BitSet& flags) {
 }
 
 void RecordJson::WriteMember(JsonWriter& json,
-                             const char* name,
+                             std::string_view name,
                              const std::optional<ContainedElements>& elements) {
     json.Name(name);
     if (!elements) {

@@ -19,9 +19,9 @@ class RecordJson {
 public:
     template <Described Record>
     static void Write(JsonWriter& json, const Record& record) {
+        static constexpr auto kFields = AllFieldsOf<Record>();
         json.BeginObject();
-        ForEachField(AllFieldsOf<Record>(),
-                     [&](const auto& field) { WriteMember(json, field.name, record.*field.value); });
+        ForEachField(kFields, [&](const auto& field) { WriteMember(json, field.name, record.*field.value); });
         json.EndObject();
     }
 
@@ -52,7 +52,7 @@ public:
 
     /// A field under a name.
     template <class Value>
-    static void WriteMember(JsonWriter& json, const char* name, const Value& value) {
+    static void WriteMember(JsonWriter& json, std::string_view name, const Value& value) {
         json.Name(name);
         Write(json, value);
     }
@@ -60,7 +60,7 @@ public:
     /// The elements within the structure; where there are more of them, the number of all under a name of its
     /// own.
     static void WriteMember(JsonWriter& json,
-                            const char* name,
+                            std::string_view name,
                             const std::optional<Structures::Type3::Types::ContainedElements>& elements);
 };
 

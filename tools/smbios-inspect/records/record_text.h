@@ -6,13 +6,12 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
-#include <utility>
 #include <vector>
 
 #include "common/dynamic_bitset.h"
+#include "smbios-inspect/output/field_texts.h"
 #include "smbios-inspect/output/units.h"
 #include "smbios-inspect/records/field.h"
-#include "structures/hex_text.h"
 #include "structures/type_3.h"
 
 namespace SMBIOS::Inspect {
@@ -22,154 +21,204 @@ class RecordText {
 public:
     /// The given fields of a record, or of a part of one.
     template <class Fields, class Record>
-    [[nodiscard]] static std::vector<FieldText> Of(const Fields& fields, const Record& record) {
-        std::vector<FieldText> texts;
-        Append(fields, record, texts);
-        return texts;
-    }
-
-    /// The same behind what `texts` holds already.
-    template <class Fields, class Record>
-    static void Append(const Fields& fields, const Record& record, std::vector<FieldText>& texts) {
-        texts.reserve(texts.size() + std::tuple_size_v<Fields>);
+    static void Append(const Fields& fields, const Record& record, FieldTexts& texts) {
         ForEachField(fields,
                      [&]<class Owner, class Value, class Form>(const Field<Owner, Value, Form>& field) {
-                         if (field.label == kShownElsewhere) {
-                             return;
-                         }
-                         Lines lines = InForm(record.*field.value, record, field.form);
-                         if (!lines.empty()) {
-                             texts.push_back({field.label, std::move(lines), std::is_same_v<Form, Failure>});
+                         if (IsShown(field.label)) {
+                             texts.BeginField(field.label, std::is_same_v<Form, Failure>);
+                             AppendInForm(record.*field.value, record, field.form, texts);
                          }
                      });
     }
 
-    [[nodiscard]] static Lines LinesOf(bool value) { return {value ? "yes" : "no"}; }
-
-    template <std::unsigned_integral Number>
-    [[nodiscard]] static Lines LinesOf(Number number) {
-        return {std::to_string(number)};
-    }
-
-    /// Six digits are all that the firmware gives; more would show how the fraction was rounded.
-    [[nodiscard]] static Lines LinesOf(float number);
-
-    [[nodiscard]] static Lines LinesOf(std::string_view text) {
-        return text.empty() ? Lines() : Lines{std::string(text)};
-    }
-
-    [[nodiscard]] static Lines LinesOf(const std::vector<std::uint8_t>& bytes);
-
-    /// The names of the flags that are set.
-    [[nodiscard]] static Lines LinesOf(const Common::Dynamic_BitSet& flags, UnnamedBits bits = {});
-
-    /// A line an element within the structure, and one that counts the others.
-    [[nodiscard]] static Lines LinesOf(const Structures::Type3::Types::ContainedElements& elements);
-
-    /// The fields of a part of a record, in one line.
-    template <Described Part>
-    [[nodiscard]] static Lines LinesOf(const Part& part) {
-        std::string words;
-        for (const FieldText& text : Of(Description<Part>::kFields, part)) {
-            words.append(words.empty() ? "" : ", ").append(text.label).append(text.label.empty() ? "" : " ");
-            words += text.lines.front();
-        }
-        return words.empty() ? Lines() : Lines(std::move(words));
-    }
-
-    template <class Element>
-    [[nodiscard]] static Lines LinesOf(const std::vector<Element>& elements) {
-        Lines lines;
-        for (const Element& element : elements) {
-            if constexpr (std::convertible_to<const Element&, std::string>) {
-                lines.push_back(element);
-            } else {
-                lines.push_back(Joined(LinesOf(element), ", "));
-            }
-        }
-        return lines;
+    /// The lines of a value that has no other form.
+    template <class Value>
+    static void AppendLines(const Value& value, FieldTexts& texts) {
+        AppendWords(value, texts.BeginLine());
+        texts.EndLine();
     }
 
     template <class Value>
-    [[nodiscard]] static Lines LinesOf(const std::optional<Value>& value) {
-        return value ? LinesOf(*value) : Lines();
+    static void AppendLines(const std::optional<Value>& value, FieldTexts& texts) {
+        if (value) {
+            AppendLines(*value, texts);
+        }
     }
+
+    static void AppendLines(const std::vector<std::uint8_t>& bytes, FieldTexts& texts) {
+        AppendWords(bytes, texts.BeginLine());
+        texts.EndLine();
+    }
+
+    template <class Element>
+    static void AppendLines(const std::vector<Element>& elements, FieldTexts& texts) {
+        for (const Element& element : elements) {
+            AppendWords(element, texts.BeginLine());
+        }
+    }
+
+    /// A line an element within the structure, and one that counts the others.
+    static void AppendLines(const Structures::Type3::Types::ContainedElements& elements, FieldTexts& texts);
 
 private:
+    // The words of a value, at the end of a line.
+
+    static void AppendWords(bool value, TextPage& line) { line.Append(value ? "yes" : "no"); }
+
+    template <std::unsigned_integral Number>
+    static void AppendWords(Number number, TextPage& line) {
+        line.AppendNumber(number);
+    }
+
+    /// Six digits are all that the firmware gives; more would show how the fraction was rounded.
+    static void AppendWords(float number, TextPage& line);
+
+    static void AppendWords(std::string_view text, TextPage& line) { line.Append(text); }
+
+    static void AppendWords(const std::vector<std::uint8_t>& bytes, TextPage& line) {
+        line.Append(HexadecimalText(bytes, " "));
+    }
+
+    static void AppendWords(const Common::Dynamic_BitSet& flags, TextPage& line) {
+        AppendNames(flags, {}, line);
+    }
+
+    /// The fields of a part of a record.
+    template <Described Part>
+    static void AppendWords(const Part& part, TextPage& line) {
+        FieldTexts texts;
+        Append(Description<Part>::kFields, part, texts);
+        AppendFields(texts, line);
+    }
+
+    // What a field's form makes of its value.
+
     template <class Value, class Record>
-    static Lines InForm(const Value& value, const Record&, Plainly) {
-        return LinesOf(value);
+    static void AppendInForm(const Value& value, const Record&, Plainly, FieldTexts& texts) {
+        AppendLines(value, texts);
     }
 
     template <class Value, class Record>
-    static Lines InForm(const Value& value, const Record&, Failure) {
-        return LinesOf(value);
+    static void AppendInForm(const Value& value, const Record&, Failure, FieldTexts& texts) {
+        AppendLines(value, texts);
     }
 
     template <class Record>
-    static Lines InForm(bool value, const Record&, IfSet flag) {
-        return value ? Lines{flag.word} : Lines();
-    }
-
-    template <class Value, class Record>
-    static Lines InForm(const Value& value, const Record&, InHexadecimal) {
-        return HexadecimalLinesOf(value);
-    }
-
-    template <class Value, class Record>
-    static Lines InForm(const Value& value, const Record&, Numbered) {
-        Lines lines = LinesOf(value);
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            lines[i].insert(0, std::to_string(i + 1) + (lines[i].empty() ? ":" : ": "));
+    static void AppendInForm(bool value, const Record&, IfSet flag, FieldTexts& texts) {
+        if (value) {
+            texts.AddLine(flag.word);
         }
-        return lines;
     }
 
     template <class Value, class Record>
-    static Lines InForm(const Value& value, const Record&, Unit unit) {
-        Lines lines = LinesOf(value);
-        for (std::string& line : lines) {
-            line.append(*unit.name == '\0' ? "" : " ").append(unit.name);
+    static void AppendInForm(const Value& value, const Record&, InHexadecimal, FieldTexts& texts) {
+        AppendHexadecimal(value, texts);
+    }
+
+    template <class Element, class Record>
+    static void AppendInForm(const std::optional<std::vector<Element>>& elements,
+                             const Record&,
+                             Numbered,
+                             FieldTexts& texts) {
+        for (std::size_t i = 0; elements && i < elements->size(); ++i) {
+            TextPage& line = texts.BeginLine();
+            line.AppendNumber(i + 1);
+            line.Append(": ");
+            const std::size_t start = line.Size();
+            AppendWords((*elements)[i], line);
+            line.CutTo(line.Size() == start ? start - 1 : line.Size());
         }
-        return lines;
+    }
+
+    template <class Value, class Record>
+    static void AppendInForm(const Value& value, const Record&, Unit unit, FieldTexts& texts) {
+        AppendLines(value, texts);
+        if (texts.HasLine()) {
+            texts.LastLine().Append(*unit.name == '\0' ? "" : " ");
+            texts.LastLine().Append(unit.name);
+        }
     }
 
     template <std::unsigned_integral Number, class Record>
-    static Lines InForm(const std::optional<Number>& number, const Record& record, UnitUnlessZero unit) {
-        return number == Number{0} ? Lines{unit.zero} : InForm(number, record, Unit{unit.name});
+    static void AppendInForm(const std::optional<Number>& number,
+                             const Record& record,
+                             UnitUnlessZero unit,
+                             FieldTexts& texts) {
+        if (number == Number{0}) {
+            texts.AddLine(unit.zero);
+        } else {
+            AppendInForm(number, record, Unit{unit.name}, texts);
+        }
     }
 
     template <class Record>
-    static Lines InForm(const std::optional<std::uint16_t>& handle, const Record& record, HandleOr words) {
-        return handle == 0xFFFF ? Lines{words.none} : InForm(handle, record, InHexadecimal{});
+    static void AppendInForm(const std::optional<std::uint16_t>& handle,
+                             const Record&,
+                             HandleOr words,
+                             FieldTexts& texts) {
+        if (handle == 0xFFFF) {
+            texts.AddLine(words.none);
+        } else {
+            AppendHexadecimal(handle, texts);
+        }
     }
 
     template <class Record>
-    static Lines InForm(const std::optional<std::uint16_t>& handle, const Record& record, HandleOfError) {
-        return handle == 0xFFFE ? Lines{"not provided"} : InForm(handle, record, HandleOr{"no error"});
+    static void AppendInForm(const std::optional<std::uint16_t>& handle,
+                             const Record& record,
+                             HandleOfError,
+                             FieldTexts& texts) {
+        if (handle == 0xFFFE) {
+            texts.AddLine("not provided");
+        } else {
+            AppendInForm(handle, record, HandleOr{"no error"}, texts);
+        }
     }
 
     template <class Record>
-    static Lines InForm(const std::optional<Common::Dynamic_BitSet>& flags, const Record&, UnnamedBits bits) {
-        return flags ? LinesOf(*flags, bits) : Lines();
+    static void AppendInForm(const std::optional<Common::Dynamic_BitSet>& flags,
+                             const Record&,
+                             UnnamedBits bits,
+                             FieldTexts& texts) {
+        if (flags) {
+            AppendNames(*flags, bits, texts.BeginLine());
+        }
     }
 
     template <std::unsigned_integral Number, class Record>
-    static Lines InForm(const std::optional<Number>& number, const Record&, ByteSize size) {
-        return number ? Lines{ByteSizeText(*number * size.unit)} : Lines();
+    static void AppendInForm(const std::optional<Number>& number,
+                             const Record&,
+                             ByteSize size,
+                             FieldTexts& texts) {
+        if (number) {
+            texts.AddLine(ByteSizeText(*number * size.unit));
+        }
     }
 
     template <class Value, class Record, class Owner, class Text>
-    static Lines InForm(const Value& code, const Record& record, NamedBy<Owner, Text> name) {
-        const std::optional<int> number = code;
+    static void AppendInForm(const Value& code,
+                             const Record& record,
+                             NamedBy<Owner, Text> name,
+                             FieldTexts& texts) {
+        const std::optional<unsigned> number = code;
         std::string_view text = TextIn(record.*name.text);
         if (text.empty() && number) {
             text = WordFor(*number, name.other, name.unknown);
         }
         if (text.empty()) {
-            return LinesOf(code);
+            AppendLines(code, texts);
+        } else {
+            AppendWithCode(text, number, texts.BeginLine());
         }
-        return number ? Lines{WithNumber(text, *number)} : Lines{std::string(text)};
+    }
+
+    template <class Value, class Record, class Owner>
+    static void AppendInForm(const Value&,
+                             const Record& record,
+                             std::string (*wording)(const Owner&),
+                             FieldTexts& texts) {
+        texts.AddLine(wording(record));
+        texts.EndLine();
     }
 
     static std::string_view TextIn(std::string_view text) noexcept { return text; }
@@ -178,37 +227,39 @@ private:
         return text ? std::string_view(*text) : std::string_view();
     }
 
-    template <class Value, class Record, class Owner>
-    static Lines InForm(const Value&, const Record& record, Lines (*wording)(const Owner&)) {
-        return wording(record);
-    }
-
     template <std::unsigned_integral Number>
-    static Lines HexadecimalLinesOf(Number number) {
-        return {Structures::PaddedHexText(number, 2 * sizeof(Number))};
+    static void AppendHexadecimal(Number number, FieldTexts& texts) {
+        texts.BeginLine().AppendHexadecimal(number, 2 * sizeof(Number));
     }
 
     template <class Value>
-    static Lines HexadecimalLinesOf(const std::optional<Value>& value) {
-        return value ? HexadecimalLinesOf(*value) : Lines();
+    static void AppendHexadecimal(const std::optional<Value>& value, FieldTexts& texts) {
+        if (value) {
+            AppendHexadecimal(*value, texts);
+        }
     }
 
+    /// All in one line.
     template <std::unsigned_integral Number>
-    static Lines HexadecimalLinesOf(const std::vector<Number>& numbers) {
-        Lines texts;
-        for (const Number number : numbers) {
-            texts.push_back(HexadecimalLinesOf(number).front());
+    static void AppendHexadecimal(const std::vector<Number>& numbers, FieldTexts& texts) {
+        TextPage& line = texts.BeginLine();
+        for (const Number& number : numbers) {
+            line.Append(&number == numbers.data() ? "" : ", ");
+            line.AppendHexadecimal(number, 2 * sizeof(Number));
         }
-        return texts.empty() ? Lines() : Lines{Joined(texts, ", ")};
+        texts.EndLine();
     }
+
+    /// The names of the flags that are set.
+    static void AppendNames(const Common::Dynamic_BitSet& flags, UnnamedBits bits, TextPage& line);
 
     /// "DDR4 (26)".
-    [[nodiscard]] static std::string WithNumber(std::string_view text, int number);
+    static void AppendWithCode(std::string_view text, std::optional<unsigned> code, TextPage& line);
 
     /// The word for a code or a bit that has no text; empty for any other number.
-    [[nodiscard]] static std::string_view WordFor(int number, int other, int unknown) noexcept;
+    [[nodiscard]] static std::string_view WordFor(std::size_t number, int other, int unknown) noexcept;
 
-    [[nodiscard]] static std::string Joined(const Lines& texts, const char* separator);
+    static void AppendFields(const FieldTexts& texts, TextPage& line);
 };
 
 }  // namespace SMBIOS::Inspect

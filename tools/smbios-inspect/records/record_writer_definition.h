@@ -19,8 +19,9 @@ RecordWriter WriterOf() {
         .json = [](const BaseStructure& decoder,
                    JsonWriter& json) { RecordJson::Write(json, RecordOf<Decoder>(decoder)); },
         .texts =
-            [](const BaseStructure& decoder, std::vector<FieldText>& texts) {
-                RecordText::Append(AllFieldsOf<Record>(), RecordOf<Decoder>(decoder), texts);
+            [](const BaseStructure& decoder, FieldTexts& texts) {
+                static constexpr auto kFields = AllFieldsOf<Record>();
+                RecordText::Append(kFields, RecordOf<Decoder>(decoder), texts);
             },
         .rawBytes = [](const BaseStructure& decoder) -> const std::vector<std::uint8_t>& {
             return RecordOf<Decoder>(decoder).rawBytes;

@@ -2,7 +2,6 @@
 
 #include "manager/structure_type_names.h"
 #include "structures/formatted_area.h"
-#include "structures/hex_text.h"
 
 namespace SMBIOS::Inspect {
 
@@ -19,16 +18,23 @@ std::string_view StructureName(std::uint8_t type) {
 }
 
 std::string StructureHeading(std::uint8_t type, std::span<const std::uint8_t> rawBytes) {
+    TextPage page;
+    AppendStructureHeading(type, rawBytes, page);
+    return std::string(page.Text());
+}
+
+void AppendStructureHeading(std::uint8_t type, std::span<const std::uint8_t> rawBytes, TextPage& page) {
     constexpr std::size_t kHandleDigits = 4;
-    constexpr std::size_t kUsualLength = 80;
     const std::string_view name = StructureName(type);
-    const std::uint16_t handle = Structures::FormattedArea(rawBytes).Handle();
-    std::string heading;
-    heading.reserve(kUsualLength);
-    heading.append("Type ").append(std::to_string(type)).append(name.empty() ? "" : ": ").append(name);
-    heading.append(", handle ").append(Structures::PaddedHexText(handle, kHandleDigits));
-    heading.append(", ").append(std::to_string(rawBytes.size())).append(" bytes");
-    return heading;
+    page.Append("Type ");
+    page.AppendNumber(type);
+    page.Append(name.empty() ? "" : ": ");
+    page.Append(name);
+    page.Append(", handle ");
+    page.AppendHexadecimal(Structures::FormattedArea(rawBytes).Handle(), kHandleDigits);
+    page.Append(", ");
+    page.AppendNumber(rawBytes.size());
+    page.Append(" bytes");
 }
 
 }  // namespace SMBIOS::Inspect

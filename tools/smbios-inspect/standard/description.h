@@ -41,9 +41,22 @@ struct FieldRow {
 };
 
 /// The number that a field's bytes are; of a field wider than eight bytes the first eight.
-[[nodiscard]] std::uint64_t NumberAt(const Structure& structure,
-                                     std::size_t offset,
-                                     std::size_t width) noexcept;
+[[nodiscard]] inline std::uint64_t NumberAt(const Structure& structure,
+                                            std::size_t offset,
+                                            std::size_t width) noexcept {
+    const Structures::FormattedArea area = structure.Area();
+    switch (width) {
+        case kByte:
+            return area.Byte(offset);
+        case kWord:
+            return area.Word(offset);
+        case kDword:
+            return area.Dword(offset);
+        default:
+            const std::uint64_t number = area.Qword(offset);
+            return width < kQword ? number & ((std::uint64_t{1} << (8 * width)) - 1) : number;
+    }
+}
 
 /// A row read in a structure.
 struct Reading {

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "smbios-inspect/output/text_page.h"
 #include "smbios-inspect/standard/value.h"
 
 namespace SMBIOS::Inspect::Standard {
@@ -29,20 +30,20 @@ struct Field {
 };
 
 /// Appends a label or a heading, with the object's number, from 1, in place of #.
-inline void AppendNumbered(std::string_view label, std::size_t index, std::string& text) {
+inline void AppendNumbered(std::string_view label, std::size_t index, TextPage& page) {
     const std::size_t mark = label.find('#');
-    if (mark == std::string_view::npos) {
-        text += label;
-        return;
+    page.Append(label.substr(0, mark));
+    if (mark != std::string_view::npos) {
+        page.AppendNumber(index + 1);
+        page.Append(label.substr(mark + 1));
     }
-    text.append(label.substr(0, mark)).append(std::to_string(index + 1)).append(label.substr(mark + 1));
 }
 
 /// The same by itself.
 [[nodiscard]] inline std::string Numbered(std::string_view label, std::size_t index) {
-    std::string text;
-    AppendNumbered(label, index, text);
-    return text;
+    TextPage page;
+    AppendNumbered(label, index, page);
+    return std::string(page.Text());
 }
 
 /// Is handed the fields of a structure, in order. Fields of one object of a group come one behind the other.

@@ -12,8 +12,6 @@ namespace SMBIOS::Inspect::Standard {
 
 namespace {
 
-constexpr std::size_t kUsualPage = 2048;
-
 bool IsReference(ValueKind kind) noexcept {
     return kind == ValueKind::handle || kind == ValueKind::handleList;
 }
@@ -21,25 +19,25 @@ bool IsReference(ValueKind kind) noexcept {
 /// "\tLabel: value", and the items of a list below it. Lines are not wrapped: scripts read them, too.
 class TextVisitor final : public FieldVisitor {
 public:
-    TextVisitor(bool isQuiet, std::string& page) noexcept : isQuiet_(isQuiet), page_(page) {}
+    TextVisitor(bool isQuiet, TextPage& page) noexcept : isQuiet_(isQuiet), page_(page) {}
 
     void Visit(const Field& field) override {
         AppendGroupHeading(field.place);
         if (field.label.empty() || (isQuiet_ && IsReference(field.kind))) {
             return;
         }
-        page_ += "\t";
+        page_.Append('\t');
         AppendNumbered(field.label, field.place.index, page_);
-        page_.append(": ", field.value.text.empty() ? 1 : 2);
+        page_.Append(field.value.text.empty() ? ":" : ": ");
         AppendPrintable(field.value.text, page_);
-        page_ += "\n";
+        page_.Append('\n');
         if (field.value.isInLine) {
             return;
         }
         for (const Item& item : field.value.items) {
-            page_ += "\t\t";
+            page_.Append("\t\t");
             AppendPrintable(item.text, page_);
-            page_ += '\n';
+            page_.Append('\n');
         }
     }
 
@@ -50,34 +48,34 @@ private:
         index_ = place.index;
         if (isNext && !place.heading.empty()) {
             AppendNumbered(place.heading, place.index, page_);
-            page_ += '\n';
+            page_.Append('\n');
         }
     }
 
     bool isQuiet_;
-    std::string& page_;
+    TextPage& page_;
     std::string_view group_;
     std::size_t index_ = 0;
 };
 
-void AppendBytes(std::span<const std::uint8_t> bytes, std::string& page) {
+void AppendBytes(std::span<const std::uint8_t> bytes, TextPage& page) {
     constexpr std::size_t kBytesInLine = 16;
     constexpr char kDigits[] = "0123456789ABCDEF";
-    page += "\tHeader and Data:\n";
+    page.Append("\tHeader and Data:\n");
     for (std::size_t i = 0; i < bytes.size(); ++i) {
-        page += i % kBytesInLine == 0 ? "\t\t" : " ";
-        page += kDigits[bytes[i] >> 4];
-        page += kDigits[bytes[i] & 0x0F];
-        page += i % kBytesInLine == kBytesInLine - 1 || i + 1 == bytes.size() ? "\n" : "";
+        page.Append(i % kBytesInLine == 0 ? "\t\t" : " ");
+        page.Append(kDigits[bytes[i] >> 4]);
+        page.Append(kDigits[bytes[i] & 0x0F]);
+        page.Append(i % kBytesInLine == kBytesInLine - 1 || i + 1 == bytes.size() ? "\n" : "");
     }
 }
 
-void AppendStrings(const Structure& structure, std::string& page) {
-    page += structure.strings.empty() ? "" : "\tStrings:\n";
+void AppendStrings(const Structure& structure, TextPage& page) {
+    page.Append(structure.strings.empty() ? "" : "\tStrings:\n");
     for (const std::string_view text : structure.strings) {
-        page += "\t\t";
+        page.Append("\t\t");
         AppendPrintable(text, page);
-        page += '\n';
+        page.Append('\n');
     }
 }
 
@@ -90,9 +88,9 @@ void PrintStructure(const Structure& structure,
     const bool isQuiet = detail == Detail::values;
     const std::string heading = isQuiet ? std::string(StructureName(structure.Type()))
                                         : StructureHeading(structure.Type(), structure.bytes);
-    std::string page;
-    page.reserve(kUsualPage);
-    page.append(Emphasised(heading, Emphasis::heading, style)).append("\n");
+    TextPage page;
+    AppendEmphasised(heading, Emphasis::heading, style, page);
+    page.Append('\n');
     TextVisitor visitor(isQuiet, page);
     VisitFields(structure, visitor);
     if (!isQuiet) {
@@ -101,10 +99,12 @@ void PrintStructure(const Structure& structure,
             AppendStrings(structure, page);
         }
         if (const std::string remark = RemarkOn(structure); !remark.empty()) {
-            page.append("\t").append(Emphasised(remark, Emphasis::warning, style)).append("\n");
+            page.Append('\t');
+            AppendEmphasised(remark, Emphasis::warning, style, page);
+            page.Append('\n');
         }
     }
-    output << page;
+    output << page.Text();
 }
 
 bool HasValues(const Structure& structure) noexcept {

@@ -19,21 +19,6 @@ constexpr std::uint64_t kUnknownWord = 0x8000;
 
 }  // namespace
 
-std::uint64_t NumberAt(const Structure& structure, std::size_t offset, std::size_t width) noexcept {
-    const Structures::FormattedArea area = structure.Area();
-    switch (width) {
-        case kByte:
-            return area.Byte(offset);
-        case kWord:
-            return area.Word(offset);
-        case kDword:
-            return area.Dword(offset);
-        default:
-            const std::uint64_t number = area.Qword(offset);
-            return width < kQword ? number & ((std::uint64_t{1} << (8 * width)) - 1) : number;
-    }
-}
-
 std::uint64_t Reading::Raw() const noexcept {
     const std::uint64_t value = NumberAt(structure, Offset(), row.width) >> row.form.lowBit;
     return row.form.bitCount < 64 ? value & ((std::uint64_t{1} << row.form.bitCount) - 1) : value;
