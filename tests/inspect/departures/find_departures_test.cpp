@@ -119,6 +119,16 @@ TEST(Departures, TellOfStringsThatAreCutInAnotherWay) {
     EXPECT_EQ(found[0].reason, ReasonId::cutting);
 }
 
+/// A zero that is followed by none ends the strings for the standard only.
+TEST(Departures, TellOfBothStructuresWhereTheLibraryFindsAnotherOne) {
+    const auto table = TableBuilder(3, 8, 0)
+                           .AddBytes({200, 4, 2, 1, 0})
+                           .AddBytes({201, 4, 1, 1, 0, 0})
+                           .AddBytes({202, 4, 3, 1, 0, 0})
+                           .RawTable();
+    EXPECT_EQ(FieldsOf(DeparturesOf(table)), "strings structure rawBytes structure");
+}
+
 // Real machines
 
 class DeparturesOfCapturedTable : public testing::TestWithParam<const char*> {
