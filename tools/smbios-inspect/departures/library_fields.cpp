@@ -105,7 +105,7 @@ struct RecordReader {
         return shown == kShownTexts.end() ? kShownElsewhere : shown->label;
     }
 
-    /// Of each field, in their order.
+    /// Of each field, in their order; literals, which end with a NUL.
     static constexpr auto Labels() {
         return std::apply([](const auto&... field) { return std::array{LabelOf(field).data()...}; }, kFields);
     }

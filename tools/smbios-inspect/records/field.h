@@ -64,6 +64,7 @@ template <class Record, class Text>
 NamedBy(Text Record::*, int, int) -> NamedBy<Record, Text>;
 
 /// One field of a record: its name in programs, its label for people, where it is and how people read it.
+/// Name and label are literals.
 template <class Record, class Value, class Form>
 struct Field {
     std::string_view name;
