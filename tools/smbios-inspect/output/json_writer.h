@@ -93,8 +93,8 @@ private:
     std::ostream& output_;
     std::size_t depth_ = 0;
     Lead lead_ = Lead::nothing;  // of the next element
-    char* place_ = buffer_.data();
     std::array<char, kKept + kUsualLine> buffer_;
+    char* place_ = buffer_.data();  // behind what is kept
 };
 
 }  // namespace SMBIOS::Inspect
