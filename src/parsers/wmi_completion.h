@@ -156,11 +156,13 @@ private:
 
     void FileRecord(const std::shared_ptr<Record>& record, Request& request) {
         const std::string& key = (*record).*source_.keyField;
-        if (key.empty() || request.properties == allProperties_) {
+        if (key.empty() || AsksForAll(request)) {
             // Such a record cannot be told apart in an answer, so everything is asked of every instance. The
             // record is not filed, and neither are those behind it: they come back as rows made by WMI.
             request.keys.clear();
-            request.properties = allProperties_;
+            if (!AsksForAll(request)) {
+                request.properties = allProperties_;
+            }
             return;
         }
         bool anyMissing = false;
@@ -174,6 +176,11 @@ private:
             request.keys.push_back(key);
         }
         recordsByKey_.try_emplace(key, record);
+    }
+
+    /// Counting tells: whatever is asked for is one of all properties.
+    [[nodiscard]] bool AsksForAll(const Request& request) const noexcept {
+        return request.properties.size() == allProperties_.size();
     }
 
     [[nodiscard]] Wmi::Instances AskWmi(Request& request) const {

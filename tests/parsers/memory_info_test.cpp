@@ -11,6 +11,7 @@
 
 #include "manager/smbios_manager.h"
 #include "structures/type_17.h"
+#include "tests/support/counted_allocations.h"
 #include "tests/support/decode.h"
 #include "tests/support/fake_platform.h"
 
@@ -493,6 +494,14 @@ TEST_F(MemoryInfoTest, DevicesFiledBeforeTheWideningStayAndLaterOnesDoNot) {
     Load({FullDevice("A"), DeviceWithoutSerialNumber(), FullDevice("C")});
     EXPECT_EQ(powershell_.CommandLines(), std::vector<std::string>{CommandLineOf(kAllProperties)});
     EXPECT_EQ(SerialNumbers(), std::vector<std::string>{"A"});
+}
+
+TEST_F(MemoryInfoTest, ManyDevicesWithoutSerialNumberCostHardlyMoreThanOne) {
+    constexpr std::size_t kDevices = 300;
+    Load(std::vector<StructureBuilder>(kDevices, DeviceWithoutSerialNumber()));
+    const CountedAllocations counted;
+    info_.RetrieveInfo();
+    EXPECT_LT(counted.Count(), kDevices);
 }
 
 TEST_F(MemoryInfoTest, AMalformedDeviceWidensTheQuery) {
