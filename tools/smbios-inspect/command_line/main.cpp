@@ -24,9 +24,7 @@ int StatusAfter(std::error_code failure, int status) {
     return Inspect::kUnreadable;
 }
 
-}  // namespace
-
-int main(int argumentCount, char** arguments) {
+int RunAndFinish(int argumentCount, char** arguments) {
     const Platform::Console console;
     const std::vector<std::string> words = Platform::ProgramArguments(argumentCount, arguments);
     const Inspect::OutputStyle style =
@@ -39,4 +37,15 @@ int main(int argumentCount, char** arguments) {
     const std::vector<std::string_view> views(words.begin(), words.end());
     const int status = Inspect::Run(views, style, output, std::cerr);
     return StatusAfter(buffer.Finish(), status);
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    const int status = RunAndFinish(argumentCount, arguments);
+#ifdef NDEBUG
+    std::_Exit(status);  // the system takes memory back faster than a table is released
+#else
+    return status;  // leak checkers look when the process ends by itself
+#endif
 }
