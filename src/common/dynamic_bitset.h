@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <span>
+#include <stdexcept>
 #include <vector>
 
 namespace SMBIOS::Common {
@@ -36,6 +37,7 @@ public:
     [[nodiscard]] const std::uint8_t* begin() const noexcept {
         return many_.empty() ? few_.data() : many_.data();
     }
+    [[nodiscard]] std::uint8_t* end() noexcept { return begin() + size(); }
     [[nodiscard]] const std::uint8_t* end() const noexcept { return begin() + size(); }
     [[nodiscard]] std::uint8_t& operator[](std::size_t i) noexcept { return begin()[i]; }
     [[nodiscard]] std::uint8_t operator[](std::size_t i) const noexcept { return begin()[i]; }
@@ -54,23 +56,40 @@ struct Dynamic_BitSet {
     FlagBytes bytes;           ///< bit i is bit (i mod 8), least significant first, of byte i / 8
     BitNames names;            ///< may be shorter than `bitCount`
 
+    Dynamic_BitSet() = default;
+
+    /// The set of the low `nbits` bits of `word`.
+    Dynamic_BitSet(std::uint64_t word, std::size_t nbits, BitNames bitNames) : names(bitNames) {
+        Assign(word, nbits);
+    }
+
     /// Makes the set `nbits` wide and copies bit (i mod 64) of `word` into every bit i. `names` stays as it
     /// is.
     void Assign(std::uint64_t word, std::size_t nbits);
 
     /// Both throw std::out_of_range when the bit is past `bitCount`, or its byte past the storage.
     void Set(std::size_t i, bool b);
-    [[nodiscard]] bool Test(std::size_t i) const;
+    [[nodiscard]] bool Test(std::size_t i) const {
+        CheckRange(i);
+        return (bytes[i / 8] >> (i % 8) & 1U) != 0;
+    }
 
     /// The name of bit i; nullptr when it has none or the name marks a bit that is not reported.
     [[nodiscard]] const char* GetBitName(std::size_t i) const noexcept;
 
     [[nodiscard]] std::size_t GetBitCount() const noexcept { return bitCount; }
     [[nodiscard]] std::size_t GetByteCount() const noexcept { return bytes.size(); }
-};
 
-/// The set of the low `bitCount` bits of `word`, named by `names`.
-[[nodiscard]] Dynamic_BitSet MakeBitSet(std::uint64_t word, std::size_t bitCount, BitNames names);
+private:
+    void CheckRange(std::size_t i) const {
+        if (i >= bitCount) {
+            throw std::out_of_range("Bit index out of range for Dynamic_BitSet");
+        }
+        if (i / 8 >= bytes.size()) {
+            throw std::out_of_range("Byte index out of range for Dynamic_BitSet");
+        }
+    }
+};
 
 /// The flags as a number, bit i for flag i; of a set of more than 64 the first ones.
 [[nodiscard]] std::uint64_t WordOf(const Dynamic_BitSet& set) noexcept;

@@ -21,6 +21,11 @@ struct TextRow {
 template <class Code>
 [[nodiscard]] constexpr std::optional<std::string_view> FindText(std::span<const TextRow<Code>> rows,
                                                                  Code code) {
+    // Most tables have a row for every code from their first one on.
+    const std::size_t place = rows.empty() ? 0 : std::size_t{code} - rows.front().code;
+    if (place < rows.size() && rows[place].code == code) {
+        return rows[place].text;
+    }
     const auto row = std::ranges::lower_bound(rows, code, {}, &TextRow<Code>::code);
     if (row == rows.end() || row->code != code) {
         return std::nullopt;

@@ -12,7 +12,6 @@
 namespace SMBIOS::Structures {
 
 using Common::ByteTable;
-using Common::MakeBitSet;
 using Common::WordTable;
 using enum Manager::SmbiosVersionIndex;
 

@@ -135,7 +135,7 @@ void Type_0::DecodeFieldsInOrder(StructureReader& in, Type0Struct& record) {
     record.ecFirmwareMinorRelease = in.Byte(0x17);
     record.systemBiosRelease = ReleaseText(in.Byte(0x14), in.Byte(0x15));
     record.ecFirmwareRelease = ReleaseText(in.Byte(0x16), in.Byte(0x17));
-    record.characteristics = MakeBitSet(in.Qword(0x0A), 64, kBiosCharacteristicNames);
+    record.characteristics.emplace(in.Qword(0x0A), 64, kBiosCharacteristicNames);
     // Departs from the standard: the extension bytes at 0x12 and 0x13 are not reported.
 }
 

@@ -180,7 +180,7 @@ void Type_17::DecodeFieldsInOrder(StructureReader& in, Type17Struct& record) {
     record.memoryErrorInformationHandle = ValueUnless(0xFFFE, in.Word(0x06));
     record.formFactorName = kFormFactorNames[in.Byte(0x0E)];
     record.memoryTypeName = kMemoryTypeNames[in.Byte(0x12)];
-    record.typeDetailFlags = MakeBitSet(in.Word(0x13), 16, kTypeDetailNames);
+    record.typeDetailFlags.emplace(in.Word(0x13), 16, kTypeDetailNames);
     record.deviceLocator = in.String(0x10);
 
     if (in.VersionIsAtLeast(v2_3_0)) {
@@ -205,8 +205,8 @@ void Type_17::DecodeFieldsInOrder(StructureReader& in, Type17Struct& record) {
         record.memoryTechnology = in.Byte(0x28);
         record.operatingModeCapability = in.Word(0x29);
         // Departs from the standard: the technology code is read as a bit mask.
-        record.memoryTechnologyFlags = MakeBitSet(in.Byte(0x28), 8, kMemoryTechnologyNames);
-        record.operatingModeCapabilityFlags = MakeBitSet(in.Word(0x29), 16, kOperatingModeCapabilityNames);
+        record.memoryTechnologyFlags.emplace(in.Byte(0x28), 8, kMemoryTechnologyNames);
+        record.operatingModeCapabilityFlags.emplace(in.Word(0x29), 16, kOperatingModeCapabilityNames);
         record.firmwareVersion = in.String(0x2B);
         record.cacheSize = ValueUnless(kUnknownSize, in.Qword(0x44));
         record.logicalSize = ValueUnless(kUnknownSize, in.Qword(0x4C));

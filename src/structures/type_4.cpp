@@ -57,7 +57,7 @@ constexpr const char* kCharacteristicsNames[] = {
 constexpr std::size_t kVirtualizationBit = 6;
 
 std::vector<std::string> SupportedVoltagesOf(std::uint8_t voltages) {
-    const Common::Dynamic_BitSet set = MakeBitSet(voltages, 8, kSupportedVoltageNames);
+    const Common::Dynamic_BitSet set(voltages, 8, kSupportedVoltageNames);
     std::vector<std::string> names;
     for (std::size_t i = 0; i < set.names.size(); ++i) {
         if (set.Test(i)) {
@@ -139,7 +139,7 @@ void Type_4::DecodeFieldsInOrder(StructureReader& in, Type4Struct& record) {
         record.threadCount = CountOf(in, 0x25, 0x2E);
         record.coreEnabled = CountOf(in, 0x24, 0x2C);
         record.processorCharacteristics = in.Word(0x26);
-        record.characteristicsFlags = MakeBitSet(in.Word(0x26), 16, kCharacteristicsNames);
+        record.characteristicsFlags.emplace(in.Word(0x26), 16, kCharacteristicsNames);
         // Departs from the standard: the capability is taken for the setting.
         record.virtualizationFirmwareEnabled = record.characteristicsFlags->Test(kVirtualizationBit);
     }

@@ -45,7 +45,7 @@ void Type_43::DecodeFieldsInOrder(StructureReader& in, Type43Struct& record) {
     record.minorSpecVersion = in.Byte(0x09);
     record.specVersion = Common::format("{}.{}", in.Byte(0x08), in.Byte(0x09));
     record.vendorId = VendorIdOf(in);
-    record.characteristics = MakeBitSet(in.Qword(0x13), 64, kTpmCharacteristicNames);
+    record.characteristics.emplace(in.Qword(0x13), 64, kTpmCharacteristicNames);
     record.description = in.String(0x12);
     if (!IsVersion1(in)) {
         record.firmwareVersion2 = in.Dword(0x0E);

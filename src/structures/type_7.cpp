@@ -99,8 +99,8 @@ constinit const ParseRules Type_7::kRules = {
 void Type_7::DecodeFieldsInOrder(StructureReader& in, Type7Struct& record) {
     DecodeConfiguration(in, record);
     record.socketDesignation = in.String(0x04);
-    record.currentSramType = MakeBitSet(in.Word(0x0D), 16, kSramTypeNames);
-    record.supportedSramType = MakeBitSet(in.Word(0x0B), 16, kSramTypeNames);
+    record.currentSramType.emplace(in.Word(0x0D), 16, kSramTypeNames);
+    record.supportedSramType.emplace(in.Word(0x0B), 16, kSramTypeNames);
     record.maximumCacheSize = SizeOf(in, 0x07, 0x13);
     record.installedSize = SizeOf(in, 0x09, 0x17);
 

@@ -159,10 +159,10 @@ void Type_9::DecodeFieldsInOrder(StructureReader& in, Type9Struct& record) {
     record.slotLengthName = kSlotLengthNames[in.Byte(0x08)];
     record.currentUsageName = kCurrentUsageNames[in.Byte(0x07)];
     record.slotDataBusWidthName = kDataBusWidthNames[in.Byte(0x06)];
-    record.slotCharacteristics1 = MakeBitSet(in.Byte(0x0B), 8, kSlotCharacteristics1Names);
+    record.slotCharacteristics1.emplace(in.Byte(0x0B), 8, kSlotCharacteristics1Names);
 
     if (in.VersionIsAtLeast(v2_1_0)) {
-        record.slotCharacteristics2 = MakeBitSet(in.Byte(0x0C), 8, kSlotCharacteristics2Names);
+        record.slotCharacteristics2.emplace(in.Byte(0x0C), 8, kSlotCharacteristics2Names);
     }
     if (in.VersionIsAtLeast(v2_6_0)) {
         record.segmentGroupNumber = in.Word(0x0D);

@@ -12,7 +12,6 @@ namespace {
 using Common::Dynamic_BitSet;
 using Common::FlagBytes;
 using Common::LowestSetBitName;
-using Common::MakeBitSet;
 using Common::WordOf;
 
 constexpr const char* kNames[] = {"dontCare", "first", "Unknown", "third"};
@@ -51,7 +50,7 @@ TEST(DynamicBitSet, AssignRepeatsTheWordPast64Bits) {
 }
 
 TEST(DynamicBitSet, AssignOfFewBitsForgetsTheManyBefore) {
-    Dynamic_BitSet set = MakeBitSet(~std::uint64_t{0}, 130, kNames);
+    Dynamic_BitSet set(~std::uint64_t{0}, 130, kNames);
     set.Assign(0x0201, 16);
     EXPECT_EQ(set.bytes, (FlagBytes{0x01, 0x02}));
     set.Assign(0, 72);
@@ -60,7 +59,7 @@ TEST(DynamicBitSet, AssignOfFewBitsForgetsTheManyBefore) {
 
 TEST(DynamicBitSet, CopiesAreSetsOfTheirOwn) {
     for (const std::size_t bits : {std::size_t{16}, std::size_t{130}}) {
-        const Dynamic_BitSet set = MakeBitSet(0, bits, kNames);
+        const Dynamic_BitSet set(0, bits, kNames);
         Dynamic_BitSet copy = set;
         copy.Set(bits - 1, true);
         EXPECT_FALSE(set.Test(bits - 1));
@@ -69,26 +68,26 @@ TEST(DynamicBitSet, CopiesAreSetsOfTheirOwn) {
 }
 
 TEST(DynamicBitSet, AssignOfNoBitsMakesAnEmptySet) {
-    Dynamic_BitSet set = MakeBitSet(0xFF, 8, kNames);
+    Dynamic_BitSet set(0xFF, 8, kNames);
     set.Assign(0xFF, 0);
     EXPECT_EQ(set.GetBitCount(), 0U);
     EXPECT_EQ(set.GetByteCount(), 0U);
 }
 
 TEST(DynamicBitSet, AssignForgetsEarlierBitsAndKeepsNames) {
-    Dynamic_BitSet set = MakeBitSet(0xFF, 8, kNames);
+    Dynamic_BitSet set(0xFF, 8, kNames);
     set.Assign(0x01, 8);
     EXPECT_FALSE(set.Test(1));
     EXPECT_STREQ(set.GetBitName(1), "first");
 }
 
 TEST(DynamicBitSet, StoresBitIInByteIDividedBy8LeastSignificantFirst) {
-    const Dynamic_BitSet set = MakeBitSet(0x8001, 16, kNames);
+    const Dynamic_BitSet set(0x8001, 16, kNames);
     EXPECT_EQ(set.bytes, (FlagBytes{0x01, 0x80}));
 }
 
 TEST(DynamicBitSet, SetClearsAndSetsSingleBits) {
-    Dynamic_BitSet set = MakeBitSet(0xFFFF, 16, kNames);
+    Dynamic_BitSet set(0xFFFF, 16, kNames);
     set.Set(9, false);
     EXPECT_EQ(set.bytes, (FlagBytes{0xFF, 0xFD}));
     set.Set(9, true);
@@ -96,12 +95,12 @@ TEST(DynamicBitSet, SetClearsAndSetsSingleBits) {
 }
 
 TEST(DynamicBitSet, TestPastTheBitCountThrows) {
-    const Dynamic_BitSet set = MakeBitSet(0x0004, 16, kNames);
+    const Dynamic_BitSet set(0x0004, 16, kNames);
     EXPECT_EQ(OutOfRangeTextOf([&] { (void)set.Test(16); }), "Bit index out of range for Dynamic_BitSet");
 }
 
 TEST(DynamicBitSet, SetPastTheBitCountThrows) {
-    Dynamic_BitSet set = MakeBitSet(0, 3, kNames);
+    Dynamic_BitSet set(0, 3, kNames);
     EXPECT_EQ(OutOfRangeTextOf([&] { set.Set(3, true); }), "Bit index out of range for Dynamic_BitSet");
 }
 
@@ -126,41 +125,41 @@ TEST(DynamicBitSet, TheBitCountIsCheckedBeforeTheStorage) {
 }
 
 TEST(DynamicBitSet, GetBitNameGivesTheNameOfTheBit) {
-    EXPECT_STREQ(MakeBitSet(0, 8, kNames).GetBitName(3), "third");
+    EXPECT_STREQ(Dynamic_BitSet(0, 8, kNames).GetBitName(3), "third");
 }
 
 TEST(DynamicBitSet, GetBitNameOfDontCareIsNull) {
-    EXPECT_EQ(MakeBitSet(0, 8, kNames).GetBitName(0), nullptr);
+    EXPECT_EQ(Dynamic_BitSet(0, 8, kNames).GetBitName(0), nullptr);
 }
 
 TEST(DynamicBitSet, GetBitNameOfUnknownIsNull) {
-    EXPECT_EQ(MakeBitSet(0, 8, kNames).GetBitName(2), nullptr);
+    EXPECT_EQ(Dynamic_BitSet(0, 8, kNames).GetBitName(2), nullptr);
 }
 
 TEST(DynamicBitSet, GetBitNamePastTheNamesIsNull) {
-    EXPECT_EQ(MakeBitSet(0, 8, kNames).GetBitName(4), nullptr);
+    EXPECT_EQ(Dynamic_BitSet(0, 8, kNames).GetBitName(4), nullptr);
 }
 
 TEST(DynamicBitSet, WordOfIsWhatTheSetWasMadeOf) {
-    EXPECT_EQ(WordOf(MakeBitSet(0x8001, 16, kNames)), 0x8001U);
-    EXPECT_EQ(WordOf(MakeBitSet(0xFFFF, 12, kNames)), 0x0FFFU);
-    EXPECT_EQ(WordOf(MakeBitSet(0, 0, kNames)), 0U);
+    EXPECT_EQ(WordOf(Dynamic_BitSet(0x8001, 16, kNames)), 0x8001U);
+    EXPECT_EQ(WordOf(Dynamic_BitSet(0xFFFF, 12, kNames)), 0x0FFFU);
+    EXPECT_EQ(WordOf(Dynamic_BitSet(0, 0, kNames)), 0U);
 }
 
 TEST(DynamicBitSet, WordOfHasTheFirst64FlagsOfALongerSet) {
-    EXPECT_EQ(WordOf(MakeBitSet(0x8000000000000003U, 72, kNames)), 0x8000000000000003U);
+    EXPECT_EQ(WordOf(Dynamic_BitSet(0x8000000000000003U, 72, kNames)), 0x8000000000000003U);
 }
 
 TEST(DynamicBitSet, LowestSetBitNameIsTheNameOfTheLowestSetBit) {
-    EXPECT_STREQ(LowestSetBitName(MakeBitSet(0x0A, 8, kNames)), "first");
+    EXPECT_STREQ(LowestSetBitName(Dynamic_BitSet(0x0A, 8, kNames)), "first");
 }
 
 TEST(DynamicBitSet, LowestSetBitNameIsNullWhenThatBitIsNotReported) {
-    EXPECT_EQ(LowestSetBitName(MakeBitSet(0x0B, 8, kNames)), nullptr);
+    EXPECT_EQ(LowestSetBitName(Dynamic_BitSet(0x0B, 8, kNames)), nullptr);
 }
 
 TEST(DynamicBitSet, LowestSetBitNameIsNullWithoutASetBit) {
-    EXPECT_EQ(LowestSetBitName(MakeBitSet(0, 8, kNames)), nullptr);
+    EXPECT_EQ(LowestSetBitName(Dynamic_BitSet(0, 8, kNames)), nullptr);
 }
 
 }  // namespace
