@@ -20,7 +20,7 @@ std::map<std::uint8_t, std::vector<RawStructure>> StructuresByType() {
     std::map<std::uint8_t, std::vector<RawStructure>> structures;
     Manager::StructureWalk walk(Platform::RawTableHeader::StructuresOf(Bench::MeasuredTable()));
     while (const auto structure = walk.Next()) {
-        structures[structure->type].emplace_back().Assign(*structure);
+        structures[structure->type].push_back(RawStructure::Of(*structure));
     }
     return structures;
 }

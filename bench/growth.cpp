@@ -51,9 +51,12 @@ LoadCost CostOfLoading(const std::vector<std::uint8_t>& rawTable) {
     const std::size_t before = liveBytes;
     const Clock::time_point start = Clock::now();
     const Manager::DecodedTable table = Manager::DecodeTable(rawTable);
-    return {static_cast<double>(table.structures.size()),
-            NanosecondsSince(start),
-            static_cast<double>(liveBytes - before)};
+    LoadCost cost{.nanoseconds = NanosecondsSince(start),
+                  .bytesHeld = static_cast<double>(liveBytes - before)};
+    for (const auto& [key, run] : table.structures) {
+        cost.structures += static_cast<double>(run.size());
+    }
+    return cost;
 }
 
 /// Bytes, at most, while the table is written.

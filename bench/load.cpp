@@ -26,9 +26,8 @@ void WalkWithStringSets(benchmark::State& state) {
     const auto structures = Platform::RawTableHeader::StructuresOf(Bench::MeasuredTable());
     for (auto _ : state) {
         Manager::StructureWalk walk(structures);
-        Manager::RawStructure raw;
         while (const auto structure = walk.Next()) {
-            raw.Assign(*structure);
+            const auto raw = Manager::RawStructure::Of(*structure);
             benchmark::DoNotOptimize(raw.strings.data());
         }
     }

@@ -1,8 +1,10 @@
 #include "manager/decoded_table.h"
 
+#include <algorithm>
 #include <iterator>
 #include <new>
 #include <optional>
+#include <ranges>
 #include <utility>
 
 #include "manager/raw_table.h"
@@ -12,14 +14,14 @@ namespace SMBIOS::Manager {
 
 using Platform::RawTableHeader;
 using Structures::BaseStructure;
-using FiledDecoder = Structures::StructureFactory::FiledDecoder;
 
 std::vector<std::shared_ptr<BaseStructure>> StructuresUnder(Types::StructureTypes key,
                                                             const FiledStructures& structures) {
     std::vector<std::shared_ptr<BaseStructure>> found;
-    const auto [first, last] = structures.equal_range(key);
-    for (auto entry = first; entry != last; ++entry) {
-        found.push_back(entry->second);
+    const auto run = structures.find(key);
+    if (run != structures.end()) {
+        found.reserve(run->second.size());
+        std::ranges::copy(run->second | std::views::values, std::back_inserter(found));
     }
     return found;
 }
@@ -33,13 +35,14 @@ TableVersion TableVersion::Of(std::span<const std::uint8_t> rawTable, SmbiosVers
     };
 }
 
-FiledDecoder DecodeStructure(const StructureView& structure,
-                             SmbiosVersionIndex version,
-                             RawStructure& memory) {
-    FiledDecoder decoded =
-        Structures::StructureFactory::CreateTablePtr(Types::StructureTypes{structure.type}, version);
-    memory.Assign(structure);
-    decoded.second->Process(memory.formattedBytes, memory.strings);
+FiledStructure StructureDecoder::Decode(const StructureView& structure) {
+    if (!block_ || block_->IsFull()) {
+        block_ = Structures::RecordBlock::Make();
+    }
+    FiledStructure decoded = Structures::StructureFactory::CreateTablePtr(
+        Types::StructureTypes{structure.type}, version_, *block_);
+    RawStructure raw = RawStructure::Of(structure);
+    decoded.second->ProcessAndKeep(std::move(raw.formattedBytes), std::move(raw.strings));
     return decoded;
 }
 
@@ -47,16 +50,17 @@ void FileStructures(std::span<const std::uint8_t> structureTable,
                     SmbiosVersionIndex version,
                     FiledStructures& structures) {
     StructureWalk walk(structureTable);
-    RawStructure memory;
+    StructureDecoder decoder(version);
     bool ranOutOfMemory = false;
-    auto last = structures.end();
+    auto run = structures.end();
     while (const std::optional<StructureView> structure = walk.Next()) {
-        FiledDecoder decoded = DecodeStructure(*structure, version, memory);
+        FiledStructure decoded = decoder.Decode(*structure);
         ranOutOfMemory = ranOutOfMemory || decoded.second->RanOutOfMemory();
         // Tables hold their structures type by type: mostly the place is right behind the last one.
-        const bool isInRun = last != structures.end() && last->first == decoded.first;
-        const auto place = isInRun ? std::next(last) : structures.upper_bound(decoded.first);
-        last = structures.insert(place, std::move(decoded));
+        if (run == structures.end() || run->first != decoded.first) {
+            run = structures.try_emplace(decoded.first).first;
+        }
+        run->second.push_back(std::move(decoded));
     }
     if (ranOutOfMemory) {
         throw std::bad_alloc();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <span>
@@ -12,11 +13,15 @@
 #include "manager/structure_types.h"
 #include "manager/structure_walk.h"
 #include "structures/base_structure.h"
+#include "structures/record_block.h"
 
 namespace SMBIOS::Manager {
 
-/// The decoders of a table, each under its key; in table order below one key.
-using FiledStructures = std::multimap<Types::StructureTypes, std::shared_ptr<Structures::BaseStructure>>;
+/// A decoder and the key it is filed under.
+using FiledStructure = Structures::StructureFactory::FiledDecoder;
+
+/// The decoders of a table: for each key that has any, all of its decoders in table order.
+using FiledStructures = std::map<Types::StructureTypes, std::deque<FiledStructure>>;
 
 /// The decoders filed under `key`, in table order.
 [[nodiscard]] std::vector<std::shared_ptr<Structures::BaseStructure>> StructuresUnder(
@@ -32,11 +37,18 @@ struct TableVersion {
     [[nodiscard]] static TableVersion Of(std::span<const std::uint8_t> rawTable, SmbiosVersionIndex unlisted);
 };
 
-/// Makes a decoder for one structure and lets it process it. Its bytes and strings are copied into `memory`,
-/// which serves one structure after the other. Throws std::bad_alloc.
-[[nodiscard]] Structures::StructureFactory::FiledDecoder DecodeStructure(const StructureView& structure,
-                                                                         SmbiosVersionIndex version,
-                                                                         RawStructure& memory);
+/// Decodes the structures of one table.
+class StructureDecoder {
+public:
+    explicit StructureDecoder(SmbiosVersionIndex version) noexcept : version_(version) {}
+
+    /// Makes a decoder for a structure and lets it process it. Throws std::bad_alloc.
+    [[nodiscard]] FiledStructure Decode(const StructureView& structure);
+
+private:
+    const SmbiosVersionIndex version_;
+    Structures::RecordBlock::Owner block_;
+};
 
 /// Walks the structures of a table and files a decoder for each. A structure that cannot be decoded tells so
 /// in its record. Throws std::bad_alloc when any allocation failed, also one that a decoder recorded; what

@@ -13,13 +13,13 @@ using Manager::Types::StructureTypes;
 namespace {
 
 template <class Type>
-std::shared_ptr<BaseStructure> Create(SmbiosVersionIndex version) {
-    return std::make_shared<Type>(version);
+std::shared_ptr<BaseStructure> Create(SmbiosVersionIndex version, std::pmr::memory_resource& memory) {
+    return std::allocate_shared<Type>(std::pmr::polymorphic_allocator<Type>(&memory), version, memory);
 }
 
 struct CreationRow {
     StructureTypes type;
-    std::shared_ptr<BaseStructure> (*create)(SmbiosVersionIndex version);
+    std::shared_ptr<BaseStructure> (*create)(SmbiosVersionIndex version, std::pmr::memory_resource& memory);
 };
 
 template <class... Types>
@@ -44,9 +44,10 @@ StructureTypes StructureFactory::KeyOf(StructureTypes type) noexcept {
 }
 
 StructureFactory::FiledDecoder StructureFactory::CreateTablePtr(StructureTypes type,
-                                                                SmbiosVersionIndex version) {
+                                                                SmbiosVersionIndex version,
+                                                                std::pmr::memory_resource& memory) {
     const CreationRow& row = RowOf(type);
-    return {row.type, row.create(version)};
+    return {row.type, row.create(version, memory)};
 }
 
 StructureFactory::FiledDecoder StructureFactory::CreateTablePtr(StructureTypes type) {

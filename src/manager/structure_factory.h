@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <memory_resource>
 #include <utility>
 
 #include "manager/smbios_version.h"
@@ -19,9 +20,12 @@ public:
 
     /// `type` is the structure's type byte, `version` that of its table. Returns the key to file the
     /// structure under and a new, empty decoder: the type itself and its own decoder, or `Unknown` and an
-    /// `UnknownType` for every other type. Throws std::bad_alloc.
-    [[nodiscard]] static FiledDecoder CreateTablePtr(Manager::Types::StructureTypes type,
-                                                     Manager::SmbiosVersionIndex version);
+    /// `UnknownType` for every other type. `memory`, where the decoder and its record are made, must stay
+    /// until they are gone. Throws std::bad_alloc.
+    [[nodiscard]] static FiledDecoder CreateTablePtr(
+        Manager::Types::StructureTypes type,
+        Manager::SmbiosVersionIndex version,
+        std::pmr::memory_resource& memory = *std::pmr::new_delete_resource());
 
     /// The same for a structure of the process's own table.
     [[nodiscard]] static FiledDecoder CreateTablePtr(Manager::Types::StructureTypes type);

@@ -13,31 +13,42 @@ std::string_view AsText(std::span<const std::uint8_t> bytes) noexcept {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-/// Where two zeros stand next to each other for the first time; npos where they never do.
-std::size_t FindDoubleZero(std::string_view bytes) noexcept {
+struct DoubleZero {
+    std::size_t place;  ///< npos where there is none
+    std::uint32_t zerosBefore;
+};
+
+/// Where two zeros stand next to each other for the first time.
+DoubleZero FindDoubleZero(std::string_view bytes) noexcept {
+    std::uint32_t zerosBefore = 0;
     std::size_t zero = bytes.find('\0');
     while (zero != std::string_view::npos && zero + 1 < bytes.size() && bytes[zero + 1] != '\0') {
         zero = bytes.find('\0', zero + 2);
+        ++zerosBefore;
     }
-    return zero + 1 < bytes.size() ? zero : std::string_view::npos;
+    return {zero + 1 < bytes.size() ? zero : std::string_view::npos, zerosBefore};
+}
+
+std::vector<std::string> StringsOf(const StructureView& structure) {
+    std::vector<std::string> strings;
+    strings.reserve(structure.stringCount);
+    std::string_view rest = AsText(structure.stringSet);
+    for (std::uint32_t i = 0; i < structure.stringCount; ++i) {
+        const std::size_t length = std::min(rest.find('\0'), rest.size());
+        strings.emplace_back(rest.substr(0, length));
+        rest.remove_prefix(std::min(length + 1, rest.size()));
+    }
+    return strings;
 }
 
 }  // namespace
 
-void RawStructure::Assign(const StructureView& structure) {
-    type = structure.type;
-    formattedBytes.assign(structure.formattedArea.begin(), structure.formattedArea.end());
-    const std::string_view texts = AsText(structure.stringSet);
-    std::size_t count = 0;
-    for (std::size_t begin = 0; begin <= texts.size() && !texts.empty(); ++count) {
-        const std::size_t end = std::min(texts.find('\0', begin), texts.size());
-        if (count == strings.size()) {
-            strings.emplace_back();
-        }
-        strings[count].assign(texts, begin, end - begin);
-        begin = end + 1;
-    }
-    strings.resize(count);
+RawStructure RawStructure::Of(const StructureView& structure) {
+    return {
+        .type = structure.type,
+        .formattedBytes = {structure.formattedArea.begin(), structure.formattedArea.end()},
+        .strings = StringsOf(structure),
+    };
 }
 
 std::optional<StructureView> StructureWalk::Next() noexcept {
@@ -45,9 +56,11 @@ std::optional<StructureView> StructureWalk::Next() noexcept {
         return std::nullopt;
     }
     const std::size_t sizeBefore = rest_.size();
-    StructureView structure{.type = rest_[0], .formattedArea = rest_.first(rest_[1]), .stringSet = {}};
+    StructureView structure;
+    structure.type = rest_[0];
+    structure.formattedArea = rest_.first(rest_[1]);
     rest_ = rest_.subspan(structure.formattedArea.size());
-    structure.stringSet = TakeStringSet();
+    TakeStringSet(structure);
 
     if (rest_.size() == sizeBefore) {
         return std::nullopt;
@@ -55,19 +68,19 @@ std::optional<StructureView> StructureWalk::Next() noexcept {
     return structure;
 }
 
-std::span<const std::uint8_t> StructureWalk::TakeStringSet() noexcept {
+void StructureWalk::TakeStringSet(StructureView& structure) noexcept {
     if (!mayHoldDoubleZero_) {
-        return {};
+        return;
     }
-    const std::size_t length = FindDoubleZero(AsText(rest_));
+    const auto [length, zerosBefore] = FindDoubleZero(AsText(rest_));
     if (length == std::string_view::npos) {
         mayHoldDoubleZero_ =
             false;  // searched once only, or a long table would be searched for every structure
-        return {};
+        return;
     }
-    const auto stringSet = rest_.first(length);
+    structure.stringSet = rest_.first(length);
+    structure.stringCount = length == 0 ? 0 : zerosBefore + 1;
     rest_ = rest_.subspan(length + 2);
-    return stringSet;
 }
 
 }  // namespace SMBIOS::Manager

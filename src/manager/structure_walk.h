@@ -11,6 +11,7 @@ namespace SMBIOS::Manager {
 /// One structure where it stands in its table. A view: valid only while the table is.
 struct StructureView {
     std::uint8_t type = 0;
+    std::uint32_t stringCount = 0;
     std::span<const std::uint8_t> formattedArea;  ///< header included
     std::span<const std::uint8_t> stringSet;      ///< without the two zeros behind it
 };
@@ -21,8 +22,8 @@ struct RawStructure {
     std::vector<std::uint8_t> formattedBytes;  ///< header included
     std::vector<std::string> strings;          ///< string number 1 first
 
-    /// Copies another structure into the memory of the one before. Throws std::bad_alloc.
-    void Assign(const StructureView& structure);
+    /// A copy of a structure in its table. Throws std::bad_alloc.
+    [[nodiscard]] static RawStructure Of(const StructureView& structure);
 };
 
 /// Cuts a structure table into its structures, in table order. Neither type 127 nor type 126 is special. The
@@ -37,7 +38,7 @@ public:
     [[nodiscard]] std::optional<StructureView> Next() noexcept;
 
 private:
-    [[nodiscard]] std::span<const std::uint8_t> TakeStringSet() noexcept;
+    void TakeStringSet(StructureView& structure) noexcept;
 
     std::span<const std::uint8_t> rest_;
     bool mayHoldDoubleZero_ = true;

@@ -33,6 +33,10 @@ public:
     /// Called by `Process`; throws what `Process` records.
     virtual void Parse(const std::vector<std::uint8_t>& formattedBytes) = 0;
 
+    /// `Process` for a caller that needs neither bytes nor strings any more: the record takes them.
+    virtual void ProcessAndKeep(std::vector<std::uint8_t>&& formattedBytes,
+                                std::vector<std::string>&& strings) = 0;
+
     /// Whether an allocation failed in `Process`, so that the record lacks what the table has.
     [[nodiscard]] bool RanOutOfMemory() const noexcept { return ranOutOfMemory_; }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <exception>
 #include <memory>
+#include <memory_resource>
 #include <new>
 #include <string>
 #include <utility>
@@ -30,23 +31,26 @@ using Manager::Types::StructureTypes;
 template <class Type, class Record>
 class Decoder : public BaseStructure {
 public:
-    /// A decoder for structures of a table of this version.
-    explicit Decoder(Manager::SmbiosVersionIndex version) noexcept : version_(version) {}
+    /// A decoder for structures of a table of this version. `memory` is where its records are made; it stays
+    /// for as long as the decoder does.
+    explicit Decoder(Manager::SmbiosVersionIndex version,
+                     std::pmr::memory_resource& memory = *std::pmr::new_delete_resource()) noexcept
+        : version_(version), memory_(memory) {}
 
     void Process(const std::vector<std::uint8_t>& formattedBytes,
                  const std::vector<std::string>& strings) final {
-        StructureReader in(formattedBytes, strings, version_);
-        const bool decoded = Attempt([&] {
-            this->Parse(formattedBytes);
-            Type::DecodeFieldsInOrder(in, *record_);
-        });
-        if (in.HasLostText()) {
-            NoteOutOfMemory();
-        }
-        if (KeepsStrings(Type::kRules.strings, decoded, strings.empty())) {
+        if (Decode(formattedBytes, strings)) {
             Attempt([&] { record_->strings = strings; });
         }
         record_->rawBytes = formattedBytes;
+    }
+
+    void ProcessAndKeep(std::vector<std::uint8_t>&& formattedBytes,
+                        std::vector<std::string>&& strings) final {
+        if (Decode(formattedBytes, strings)) {
+            record_->strings = std::move(strings);
+        }
+        record_->rawBytes = std::move(formattedBytes);
     }
 
     [[nodiscard]] std::uint16_t GetHandle() const final { return record_ ? record_->handle : kNoHandle; }
@@ -66,11 +70,25 @@ public:
 protected:
     /// Makes a fresh record, releasing any earlier one.
     Record& MakeRecord() {
-        record_ = std::make_shared<Record>();
+        record_ = std::allocate_shared<Record>(std::pmr::polymorphic_allocator<Record>(&memory_));
         return *record_;
     }
 
 private:
+    /// Returns whether the string set is to be kept.
+    [[nodiscard]] bool Decode(const std::vector<std::uint8_t>& formattedBytes,
+                              const std::vector<std::string>& strings) {
+        StructureReader in(formattedBytes, strings, version_);
+        const bool decoded = Attempt([&] {
+            this->Parse(formattedBytes);
+            Type::DecodeFieldsInOrder(in, *record_);
+        });
+        if (in.HasLostText()) {
+            NoteOutOfMemory();
+        }
+        return KeepsStrings(Type::kRules.strings, decoded, strings.empty());
+    }
+
     /// Runs one step and tells whether it succeeded; a failure's text becomes the record's error.
     template <class Step>
     bool Attempt(Step step) {
@@ -96,6 +114,7 @@ private:
     }
 
     const Manager::SmbiosVersionIndex version_;
+    std::pmr::memory_resource& memory_;
     std::shared_ptr<Record> record_;
 };
 

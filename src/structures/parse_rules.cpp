@@ -27,9 +27,9 @@ void CheckStructure(const ParseRules& rules,
     if (formattedBytes.empty()) {
         throw std::runtime_error("Invalid structure format pointer");
     }
-    CheckHeader(formattedBytes);
     const std::uint8_t length = FormattedArea(formattedBytes).Length();
-    if (!rules.lengths.Contains(length) || !rules.versions.Contains(version)) {
+    if (formattedBytes.size() < kHeaderSize || !rules.lengths.Contains(length) ||
+        !rules.versions.Contains(version)) {
         throw Common::MessageException(kMalformed);
     }
     for (const Gate& gate : rules.gates) {
@@ -37,18 +37,6 @@ void CheckStructure(const ParseRules& rules,
             throw Common::MessageException(gate.message);
         }
     }
-}
-
-bool KeepsStrings(StringSetRule rule, bool decoded, bool isEmpty) noexcept {
-    switch (rule) {
-        case StringSetRule::onSuccess:
-            return decoded;
-        case StringSetRule::alwaysIfPresent:
-            return !isEmpty;
-        case StringSetRule::always:
-            return decoded || !isEmpty;
-    }
-    return false;
 }
 
 }  // namespace SMBIOS::Structures

@@ -82,6 +82,16 @@ void CheckStructure(const ParseRules& rules,
 void CheckHeader(const std::vector<std::uint8_t>& formattedBytes);
 
 /// Whether the string set is to be kept in the record.
-[[nodiscard]] bool KeepsStrings(StringSetRule rule, bool decoded, bool isEmpty) noexcept;
+[[nodiscard]] constexpr bool KeepsStrings(StringSetRule rule, bool decoded, bool isEmpty) noexcept {
+    switch (rule) {
+        case StringSetRule::onSuccess:
+            return decoded;
+        case StringSetRule::alwaysIfPresent:
+            return !isEmpty;
+        case StringSetRule::always:
+            return decoded || !isEmpty;
+    }
+    return false;
+}
 
 }  // namespace SMBIOS::Structures

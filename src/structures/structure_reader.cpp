@@ -6,9 +6,6 @@ namespace SMBIOS::Structures {
 
 std::string StructureReader::String(std::size_t offset) const {
     const std::uint8_t number = Byte(offset);
-    if (number == 0) {
-        return {};
-    }
     std::string text = GetStringByIndex(number, strings_);
     if (text.empty() && !FindString(number, strings_).empty()) {
         NoteLostText();

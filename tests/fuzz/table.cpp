@@ -20,16 +20,20 @@ namespace {
 void WriteAll(const Manager::DecodedTable& table, std::ostream& output) {
     Inspect::JsonWriter json(output);
     json.BeginArray();
-    for (const FiledStructure& structure : table.structures) {
-        Inspect::WriteStructure(structure, json);
+    for (const auto& [key, run] : table.structures) {
+        for (const FiledStructure& structure : run) {
+            Inspect::WriteStructure(structure, json);
+        }
     }
     json.EndArray();
     json.EndLine();
 }
 
 void PrintAll(const Manager::DecodedTable& table, const Inspect::OutputStyle& style, std::ostream& output) {
-    for (const FiledStructure& structure : table.structures) {
-        Inspect::StructurePrinter(style, output).Print(structure);
+    for (const auto& [key, run] : table.structures) {
+        for (const FiledStructure& structure : run) {
+            Inspect::StructurePrinter(style, output).Print(structure);
+        }
     }
 }
 

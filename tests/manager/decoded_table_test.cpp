@@ -22,6 +22,7 @@ namespace {
 using Manager::DecodedRecords;
 using Manager::DecodedTable;
 using Manager::DecodeTable;
+using Manager::FiledStructure;
 using Manager::Types::StructureTypes;
 using Structures::Type_17;
 using Structures::UnknownType;
@@ -61,8 +62,11 @@ TEST(DecodedTable, FilesStructuresUnderTheirKeysInTableOrder) {
     const DecodedTable table = DecodeTable(
         TableBuilder(2, 8, 0).Add(Device(3)).Add({200, 4, 9}).Add(Device(1)).Add({127, 4, 8}).RawTable());
     std::vector<std::pair<int, int>> filed;
-    for (const auto& [key, decoder] : table.structures) {
-        filed.emplace_back(static_cast<int>(key), decoder->GetHandle());
+    for (const auto& [key, run] : table.structures) {
+        for (const FiledStructure& structure : run) {
+            EXPECT_EQ(structure.first, key);
+            filed.emplace_back(static_cast<int>(key), structure.second->GetHandle());
+        }
     }
     EXPECT_EQ(filed, (std::vector<std::pair<int, int>>{{17, 3}, {17, 1}, {128, 9}, {128, 8}}));
 }
@@ -79,8 +83,10 @@ TEST(DecodedTable, KeepsTableOrderWithinRunsOfOneTypeAndFromRunToRun) {
                                                .Add({200, 4, 7})
                                                .RawTable());
     std::vector<int> handles;
-    for (const auto& [key, decoder] : table.structures) {
-        handles.push_back(decoder->GetHandle());
+    for (const auto& [key, run] : table.structures) {
+        for (const FiledStructure& structure : run) {
+            handles.push_back(structure.second->GetHandle());
+        }
     }
     EXPECT_EQ(handles, (std::vector<int>{3, 1, 2, 5, 4, 9, 8, 7}));
 }

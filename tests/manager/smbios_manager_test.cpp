@@ -230,7 +230,7 @@ TEST(SmbiosManager, AnAllocationThatFailsFailsTheLoadAndLeavesNoTraceInTheNext) 
     while (!LoadsWithMemoryFor(n, Failing::once)) {
         ++n;
     }
-    EXPECT_GT(n, 20U);
+    EXPECT_GT(n, 12U);
     const auto device = TheRecordOf<Type_17>(StructureTypes::MemoryDevice);
     EXPECT_EQ(device->error, "");
     EXPECT_EQ(device->serialNumber, "A serial number of some length");

@@ -16,10 +16,8 @@ using Strings = std::vector<std::string>;
 std::vector<RawStructure> Walked(const Bytes& table) {
     std::vector<RawStructure> structures;
     StructureWalk walk(table);
-    RawStructure raw;
     while (const auto structure = walk.Next()) {
-        raw.Assign(*structure);
-        structures.push_back(raw);
+        structures.push_back(RawStructure::Of(*structure));
     }
     return structures;
 }

@@ -75,6 +75,40 @@ TEST(Decoder, StoresHandleFieldsStringsAndRawBytes) {
     EXPECT_EQ(record->error, "");
 }
 
+TEST(Decoder, KeepsTheVeryBytesAndStringsItIsGiven) {
+    KeepingType decoder(v2_0_0);
+    Bytes bytes = kGood;
+    Strings strings = {"one", "a text that is longer than what fits into a string object"};
+    const auto* const firstByte = bytes.data();
+    const auto* const firstString = strings.data();
+    decoder.ProcessAndKeep(std::move(bytes), std::move(strings));
+    ASSERT_TRUE(decoder.GetRecord()->strings);
+    EXPECT_EQ(decoder.GetRecord()->rawBytes.data(), firstByte);
+    EXPECT_EQ(decoder.GetRecord()->strings->data(), firstString);
+    EXPECT_EQ(decoder.GetRecord()->second, 7);
+}
+
+TEST(Decoder, KeepsOfAFailureWhatItWouldHaveCopied) {
+    for (const Strings& strings : {Strings{}, Strings{"text"}}) {
+        KeepingType always(v2_0_0);
+        always.ProcessAndKeep(Bytes(kFailing), Strings(strings));
+        EXPECT_EQ(always.GetRecord()->rawBytes, kFailing);
+        EXPECT_EQ(always.GetRecord()->error, "too long");
+        EXPECT_EQ(always.GetRecord()->strings,
+                  (DecodeBytes<KeepingType>(v2_0_0, kFailing, strings)->strings));
+
+        SuccessType onSuccess(v2_0_0);
+        onSuccess.ProcessAndKeep(Bytes(kFailing), Strings(strings));
+        EXPECT_FALSE(onSuccess.GetRecord()->strings);
+    }
+}
+
+TEST(Decoder, AnOverwrittenByteShowsInTheBytesItKeeps) {
+    KeepingType decoder(v2_0_0);
+    decoder.ProcessAndKeep({99, 6, 0x34, 0x12, 3, 0xFF}, {});
+    EXPECT_EQ(decoder.GetRecord()->rawBytes, (Bytes{99, 6, 0x34, 0x12, 3, 0x0F}));
+}
+
 TEST(Decoder, GetHandleGivesTheRecordsHandle) {
     KeepingType decoder(v2_0_0);
     decoder.Process(kGood, {});

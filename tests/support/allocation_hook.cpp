@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -43,6 +44,27 @@ void* AllocateOrNull(std::size_t size) noexcept {
     }
 }
 
+/// The alignment of all memory, which asking for it does not change.
+constexpr std::align_val_t kUsual{alignof(std::max_align_t)};
+
+/// Memory of a wider alignment has the start of what it was taken from right in front of it.
+void* AllocateAligned(std::size_t size, std::align_val_t alignment) {
+    if (alignment <= kUsual) {
+        return Allocate(size);
+    }
+    const auto width = static_cast<std::size_t>(alignment);
+    void* const start = Allocate(size + width + sizeof(void*));
+    void* place = static_cast<void**>(start) + 1;
+    std::size_t space = size + width;
+    std::align(width, size, place, space);
+    static_cast<void**>(place)[-1] = start;
+    return place;
+}
+
+void FreeAligned(void* memory, std::align_val_t alignment) noexcept {
+    std::free(memory == nullptr || alignment <= kUsual ? memory : static_cast<void**>(memory)[-1]);
+}
+
 }  // namespace
 
 AllocationHook::AllocationHook() noexcept : former_(std::exchange(currentHook, this)) {}
@@ -67,6 +89,18 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
     return SMBIOS::Tests::AllocateOrNull(size);
+}
+
+void* operator new(std::size_t size, std::align_val_t alignment) {
+    return SMBIOS::Tests::AllocateAligned(size, alignment);
+}
+
+void operator delete(void* memory, std::align_val_t alignment) noexcept {
+    SMBIOS::Tests::FreeAligned(memory, alignment);
+}
+
+void operator delete(void* memory, std::size_t, std::align_val_t alignment) noexcept {
+    SMBIOS::Tests::FreeAligned(memory, alignment);
 }
 
 void operator delete(void* memory) noexcept {

@@ -34,5 +34,28 @@ TEST(ThreadsDecoding, TablesOfDifferentVersionsDecodeSideBySide) {
     EXPECT_EQ(wrong, std::vector<int>(kThreads, 0));
 }
 
+// The records of one table share blocks of memory: the threads release theirs side by side.
+TEST(ThreadsDecoding, RecordsOfOneTableAreReleasedSideBySide) {
+    constexpr std::size_t kThreads = 8;
+    constexpr std::size_t kDevices = 64;
+    constexpr int kRepetitions = 50;
+    TableBuilder builder(2, 8, 0);
+    for (std::size_t i = 0; i < kDevices; ++i) {
+        builder.Add(StructureBuilder(17, 0x28, static_cast<std::uint16_t>(i)).String(0x18, "Serial"));
+    }
+    const auto rawTable = builder.RawTable();
+    for (int i = 0; i < kRepetitions; ++i) {
+        auto records = Manager::DecodedRecords<Structures::Type_17>(Manager::DecodeTable(rawTable));
+        std::vector<std::size_t> released(kThreads, 0);
+        RunTogether(kThreads, [&](std::size_t number) {
+            for (std::size_t device = number; device < kDevices; device += kThreads) {
+                released[number] += records[device]->handle == device ? 1 : 0;
+                records[device].reset();
+            }
+        });
+        EXPECT_EQ(released, std::vector<std::size_t>(kThreads, kDevices / kThreads));
+    }
+}
+
 }  // namespace
 }  // namespace SMBIOS::Tests

@@ -16,6 +16,7 @@ namespace {
 
 using Inspect::Departures::Departure;
 using Inspect::Departures::MarkFinder;
+using Manager::Types::StructureTypes;
 using Samples::StructureBuilder;
 using Samples::TableBuilder;
 
@@ -26,9 +27,11 @@ LabelsOfDecoders FoundOneByOne(const std::vector<std::uint8_t>& rawTable,
                                const Manager::DecodedTable& table) {
     LabelsOfDecoders labels;
     MarkFinder finder(rawTable);
-    for (const auto& structure : table.structures) {
-        for (const std::string_view label : finder.MarksOf(structure)) {
-            labels[structure.second.get()].append(label).append(";");
+    for (const auto& [key, run] : table.structures) {
+        for (const Manager::FiledStructure& structure : run) {
+            for (const std::string_view label : finder.MarksOf(structure)) {
+                labels[structure.second.get()].append(label).append(";");
+            }
         }
     }
     return labels;
@@ -59,8 +62,9 @@ TEST(MarkFinder, GivesEachStructureItsOwnMarks) {
                            .RawTable();
     const Manager::DecodedTable decoded = Manager::DecodeTable(table);
     MarkFinder finder(table);
-    EXPECT_EQ(finder.MarksOf(*decoded.structures.begin()).size(), 0U);
-    ASSERT_EQ(finder.MarksOf(*std::next(decoded.structures.begin())).size(), 1U);
+    const auto& arrays = decoded.structures.at(StructureTypes::PhysicalMemoryArray);
+    EXPECT_EQ(finder.MarksOf(arrays.at(0)).size(), 0U);
+    ASSERT_EQ(finder.MarksOf(arrays.at(1)).size(), 1U);
 }
 
 TEST(MarkFinder, FindsWhatTheComparisonOfTheWholeTableDoes) {
@@ -80,8 +84,9 @@ TEST(MarkFinder, MarksTheBytesOfAStructureThatTheStandardDoesNotHave) {
     const auto table = TableBuilder(3, 8, 0).Add(StructureBuilder(16, 0x17)).RawTable();
     const Manager::DecodedTable decoded = Manager::DecodeTable(table);
     MarkFinder finder(table);
-    (void)finder.MarksOf(*decoded.structures.begin());
-    const auto marks = finder.MarksOf(*decoded.structures.begin());
+    const Manager::FiledStructure& array = decoded.structures.at(StructureTypes::PhysicalMemoryArray).at(0);
+    (void)finder.MarksOf(array);
+    const auto marks = finder.MarksOf(array);
     ASSERT_EQ(marks.size(), 1U);
     EXPECT_EQ(marks.front(), "Raw bytes");
 }

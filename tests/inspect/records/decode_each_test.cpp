@@ -65,7 +65,7 @@ TEST(DecodeEach, TakesAnUnlistedVersionFor200) {
     const auto table = TableBuilder(3, 9, 0).Add(StructureBuilder(17, 0x54, 1)).RawTable();
     std::string error;
     DecodeEach(table, All, [&](const FiledStructure& structure) { error = ErrorOf(structure); });
-    EXPECT_EQ(error, ErrorOf(*Manager::DecodeTable(table).structures.begin()));
+    EXPECT_EQ(error, ErrorOf(Manager::DecodeTable(table).structures.at(StructureTypes::MemoryDevice).at(0)));
     EXPECT_FALSE(error.empty());
 }
 
@@ -74,8 +74,10 @@ TEST(DecodeEach, GivesWhatALoadFiles) {
     const Manager::DecodedTable loaded = Manager::DecodeTable(table);
     const std::string expected = JsonText([&](JsonWriter& json) {
         json.BeginArray();
-        for (const FiledStructure& structure : loaded.structures) {
-            WriteStructure(structure, json);
+        for (const auto& [key, run] : loaded.structures) {
+            for (const FiledStructure& structure : run) {
+                WriteStructure(structure, json);
+            }
         }
         json.EndArray();
     });

@@ -139,10 +139,8 @@ TEST(StructuresOfRandomTables, RandomBytesGiveValidJsonAndHarmlessText) {
         const std::vector<std::uint8_t> table = random.Bytes(random.Below(600));
         std::vector<FiledStructure> structures;
         Manager::StructureWalk walk(table);
-        Manager::RawStructure raw;
         while (const auto structure = walk.Next()) {
-            raw.Assign(*structure);
-            structures.push_back(Decoded(raw, version));
+            structures.push_back(Decoded(Manager::RawStructure::Of(*structure), version));
         }
         ASSERT_NO_FATAL_FAILURE(ExpectValidJson(structures)) << "table " << i;
         ASSERT_NO_FATAL_FAILURE(ExpectHarmlessText(structures, {.width = random.Below(120)}))

@@ -293,12 +293,11 @@ TEST(MemoryReport, OfASavedTableRunsNoCommand) {
 std::size_t ListedDevices(const std::vector<std::uint8_t>& rawTable) {
     std::set<std::string> serialNumbers;
     Manager::StructureWalk walk{std::span{rawTable}.subspan(8)};
-    Manager::RawStructure raw;
     while (const auto structure = walk.Next()) {
         if (structure->type != 17) {
             continue;
         }
-        raw.Assign(*structure);
+        const auto raw = Manager::RawStructure::Of(*structure);
         const std::size_t number = raw.formattedBytes.size() > 0x18 ? raw.formattedBytes[0x18] : 0;
         std::string serial = number == 0 ? "" : raw.strings.at(number - 1);
         serial.erase(0, serial.find_first_not_of(' '));

@@ -29,8 +29,8 @@ public:
     NewestReading(const Structure& structure, Manager::Types::StructureTypes key)
         : decoder_(Structures::StructureFactory::CreateTablePtr(key, SmbiosVersionIndex::v3_8_0).second),
           key_(key) {
-        decoder_->Process({structure.bytes.begin(), structure.bytes.end()},
-                          {structure.strings.begin(), structure.strings.end()});
+        decoder_->ProcessAndKeep({structure.bytes.begin(), structure.bytes.end()},
+                                 {structure.strings.begin(), structure.strings.end()});
         if (decoder_->RanOutOfMemory()) {
             throw std::bad_alloc();
         }

@@ -17,30 +17,21 @@ namespace {
 /// Goes through the decoders of a table: those of each key in table order.
 class DecoderCursor {
 public:
-    explicit DecoderCursor(const FiledStructures& structures) {
-        for (auto first = structures.begin(); first != structures.end();) {
-            const auto last = structures.upper_bound(first->first);
-            ranges_.emplace(first->first, Range{first, last});
-            first = last;
-        }
-    }
+    explicit DecoderCursor(const FiledStructures& structures) noexcept : structures_(structures) {}
 
     /// The next decoder of a key; null when there is none.
     [[nodiscard]] const Structures::BaseStructure* Next(StructureTypes key) {
-        const auto range = ranges_.find(key);
-        if (range == ranges_.end() || range->second.next == range->second.end) {
+        const auto run = structures_.find(key);
+        std::size_t& next = next_[key];
+        if (run == structures_.end() || next == run->second.size()) {
             return nullptr;
         }
-        return (range->second.next++)->second.get();
+        return run->second[next++].second.get();
     }
 
 private:
-    struct Range {
-        FiledStructures::const_iterator next;
-        FiledStructures::const_iterator end;
-    };
-
-    std::map<StructureTypes, Range> ranges_;
+    const FiledStructures& structures_;
+    std::map<StructureTypes, std::size_t> next_;
 };
 
 }  // namespace
@@ -55,8 +46,8 @@ void FindDepartures(std::span<const std::uint8_t> rawTable,
         const StructureTypes key = StructureFactory::KeyOf(StructureTypes{structure->Type()});
         comparison.Compare(&*structure, key, decoders.Next(key), visitor);
     }
-    for (const auto& [key, each] : table.structures) {
-        if (const Structures::BaseStructure* decoder = decoders.Next(key)) {
+    for (const auto& [key, run] : table.structures) {
+        while (const Structures::BaseStructure* decoder = decoders.Next(key)) {
             comparison.Compare(nullptr, key, decoder, visitor);
         }
     }

@@ -42,7 +42,7 @@ MarkFinder::MarkFinder(std::span<const std::uint8_t> rawTable)
     }
 }
 
-std::span<const std::string_view> MarkFinder::MarksOf(const Manager::FiledStructures::value_type& structure) {
+std::span<const std::string_view> MarkFinder::MarksOf(const Manager::FiledStructure& structure) {
     Queue& queue = queues_[structure.first];
     const bool isThere = queue.next < queue.structures.size();
     const Standard::Structure* const ofStandard = isThere ? &queue.structures[queue.next++] : nullptr;

@@ -22,8 +22,7 @@ public:
 
     /// Labels of the lines of the next structure under its key, until the next call; a departing value that
     /// has no line of its own counts too, as often as it occurs.
-    [[nodiscard]] std::span<const std::string_view> MarksOf(
-        const Manager::FiledStructures::value_type& structure);
+    [[nodiscard]] std::span<const std::string_view> MarksOf(const Manager::FiledStructure& structure);
 
 private:
     /// The structures under a key, as the standard cuts them out of the table.

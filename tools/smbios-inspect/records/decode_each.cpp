@@ -25,10 +25,10 @@ void DecodeEach(std::span<const std::uint8_t> rawTable,
         }
     }
     const auto version = Manager::TableVersion::Of(rawTable, Manager::SmbiosVersionIndex::v2_0_0).index;
-    Manager::RawStructure memory;
+    Manager::StructureDecoder decoder(version);
     for (const auto& [key, views] : structures) {
         for (const StructureView& view : views) {
-            const FiledStructure decoded = Manager::DecodeStructure(view, version, memory);
+            const FiledStructure decoded = decoder.Decode(view);
             if (decoded.second->RanOutOfMemory()) {
                 throw std::bad_alloc();
             }

@@ -16,8 +16,7 @@
 
 namespace SMBIOS::Inspect {
 
-/// A decoder that has processed its structure, and the key it is filed under.
-using FiledStructure = Manager::FiledStructures::value_type;
+using Manager::FiledStructure;
 
 /// The structure's type byte.
 [[nodiscard]] std::uint8_t TypeOf(const FiledStructure& structure);
