@@ -1,10 +1,7 @@
 #include "manager/decoded_table.h"
 
-#include <algorithm>
-#include <iterator>
 #include <new>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 #include "manager/raw_table.h"
@@ -21,7 +18,9 @@ std::vector<std::shared_ptr<BaseStructure>> StructuresUnder(Types::StructureType
     const auto run = structures.find(key);
     if (run != structures.end()) {
         found.reserve(run->second.size());
-        std::ranges::copy(run->second | std::views::values, std::back_inserter(found));
+        for (const FiledStructure& structure : run->second) {
+            found.push_back(structure.second);
+        }
     }
     return found;
 }
@@ -56,7 +55,7 @@ void FileStructures(std::span<const std::uint8_t> structureTable,
     while (const std::optional<StructureView> structure = walk.Next()) {
         FiledStructure decoded = decoder.Decode(*structure);
         ranOutOfMemory = ranOutOfMemory || decoded.second->RanOutOfMemory();
-        // Tables hold their structures type by type: mostly the place is right behind the last one.
+        // Tables hold their structures type by type: mostly the run is that of the last one.
         if (run == structures.end() || run->first != decoded.first) {
             run = structures.try_emplace(decoded.first).first;
         }

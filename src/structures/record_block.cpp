@@ -16,9 +16,13 @@ constexpr std::size_t RoundedUp(std::size_t size) noexcept {
 
 void* RecordBlock::do_allocate(std::size_t size, std::size_t alignment) {
     isFull_ = isFull_ || size > bytes_.size() - used_ || alignment > kAlignment;
-    void* const place =
-        isFull_ ? std::pmr::new_delete_resource()->allocate(size, alignment) : bytes_.data() + used_;
-    used_ += isFull_ ? 0 : RoundedUp(size);
+    void* place = nullptr;
+    if (isFull_) {
+        place = std::pmr::new_delete_resource()->allocate(size, alignment);
+    } else {
+        place = bytes_.data() + used_;
+        used_ += RoundedUp(size);
+    }
     shares_.fetch_add(1, std::memory_order_relaxed);
     return place;
 }

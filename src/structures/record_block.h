@@ -34,7 +34,7 @@ private:
 
     void Release() noexcept;
 
-    std::atomic<std::size_t> shares_ = 1;
+    std::atomic<std::size_t> shares_ = 1;  // the owner's, and one for each thing made in it
     std::size_t used_ = 0;
     bool isFull_ = false;
     alignas(std::max_align_t) std::array<std::byte, 16'000> bytes_;

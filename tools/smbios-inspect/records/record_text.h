@@ -45,13 +45,9 @@ public:
         }
     }
 
-    static void AppendLines(const std::vector<std::uint8_t>& bytes, FieldTexts& texts) {
-        AppendWords(bytes, texts.BeginLine());
-        texts.EndLine();
-    }
-
     template <class Element>
-    static void AppendLines(const std::vector<Element>& elements, FieldTexts& texts) {
+    requires(!std::same_as<Element, std::uint8_t>)  // bytes are one value
+        static void AppendLines(const std::vector<Element>& elements, FieldTexts& texts) {
         for (const Element& element : elements) {
             AppendWords(element, texts.BeginLine());
         }
