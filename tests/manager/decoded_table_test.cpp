@@ -12,6 +12,7 @@
 #include "platform/file_bytes.h"
 #include "structures/type_17.h"
 #include "structures/unknown_type.h"
+#include "tests/support/counted_allocations.h"
 #include "tests/support/decode.h"
 #include "tests/support/failing_allocation.h"
 
@@ -89,6 +90,19 @@ TEST(DecodedTable, KeepsTableOrderWithinRunsOfOneTypeAndFromRunToRun) {
         }
     }
     EXPECT_EQ(handles, (std::vector<int>{3, 1, 2, 5, 4, 9, 8, 7}));
+}
+
+TEST(DecodedTable, DecodersAndRecordsHaveHardlyAnyMemoryOfTheirOwn) {
+    constexpr std::size_t kStructures = 400;
+    TableBuilder builder(2, 8, 0);
+    for (std::size_t i = 0; i < kStructures; ++i) {
+        builder.Add({200, 4});
+    }
+    const std::vector<std::uint8_t> rawTable = builder.RawTable();
+    const CountedAllocations counted;
+    (void)DecodeTable(rawTable);
+    EXPECT_GT(counted.Count(), kStructures);  // the bytes of each
+    EXPECT_LT(counted.Count(), kStructures * 5 / 4);
 }
 
 TEST(DecodedTable, GetStructuresByTypeGivesTheOnesOfOneKey) {
