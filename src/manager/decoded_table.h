@@ -37,7 +37,7 @@ struct TableVersion {
     [[nodiscard]] static TableVersion Of(std::span<const std::uint8_t> rawTable, SmbiosVersionIndex unlisted);
 };
 
-/// Decodes the structures of one table.
+/// Decodes the structures of one table, into memory that their decoders and records share.
 class StructureDecoder {
 public:
     explicit StructureDecoder(SmbiosVersionIndex version) noexcept : version_(version) {}

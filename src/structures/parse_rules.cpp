@@ -27,9 +27,9 @@ void CheckStructure(const ParseRules& rules,
     if (formattedBytes.empty()) {
         throw std::runtime_error("Invalid structure format pointer");
     }
+    CheckHeader(formattedBytes);
     const std::uint8_t length = FormattedArea(formattedBytes).Length();
-    if (formattedBytes.size() < kHeaderSize || !rules.lengths.Contains(length) ||
-        !rules.versions.Contains(version)) {
+    if (!rules.lengths.Contains(length) || !rules.versions.Contains(version)) {
         throw Common::MessageException(kMalformed);
     }
     for (const Gate& gate : rules.gates) {
